@@ -29,7 +29,7 @@ inline int product(int theLeft, int theRight)
 /// The nearest whole number, halves away from zero; the most negative int for all that no int can hold.
 inline int rounded(double theValue)
 {
-    const bool fits = theValue > -2147483648.0 && theValue < 2147483647.0;
+    const bool fits = theValue >= -2147483647.0 && theValue < 2147483647.0;
     return fits ? qRound(theValue) : std::numeric_limits<int>::min();
 }
 

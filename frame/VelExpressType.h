@@ -1,0 +1,54 @@
+#ifndef VELEXPRESSTYPE_H
+#define VELEXPRESSTYPE_H
+
+#include "frame/VelEnumerations.h"
+#include "frame/VelTarmExport.h"
+
+#include <QString>
+
+template <typename Key, typename Value>
+class VelLookUpTable;
+
+/// The speed class of production and shipping, with its name for people. A value.
+class VELTARM_EXPORT VelExpressType
+{
+public:
+    /// ExpressableType_UNKNOWN.
+    VelExpressType() = default;
+    VelExpressType(VelExpressTypeEnum theValue) : myValue(theValue) {}
+
+    /// Decodes a document's key: "0" standard, "1" and "2" the express classes, empty is unknown.
+    explicit VelExpressType(const QString& theText);
+
+    VelExpressType(const VelExpressType&) = default;
+    VelExpressType& operator=(const VelExpressType&) = default;
+    virtual ~VelExpressType() = default;
+
+    VelExpressTypeEnum value() const { return myValue; }
+
+    /// Whether the value is not ExpressableType_UNKNOWN.
+    bool isValid() const { return myValue != ExpressableType_UNKNOWN; }
+
+    bool operator<(const VelExpressType& theOther) const { return myValue < theOther.myValue; }
+    bool operator==(const VelExpressType& theOther) const { return myValue == theOther.myValue; }
+    bool operator!=(const VelExpressType& theOther) const { return myValue != theOther.myValue; }
+
+    /// A new table of the translated names, owned by the caller.
+    static VelLookUpTable<VelExpressTypeEnum, QString>* initNames();
+
+    /// The translated name. The express classes 2 and 3 have none of their own and answer "Undefiniert".
+    QString humanReadableName() const;
+
+    /// The type of that name; unknown when no type has it.
+    static VelExpressType createFromHumanReadable(const QString& theText);
+
+private:
+    static const VelLookUpTable<VelExpressTypeEnum, QString>& names();
+
+    /// Built on first need, in the language current then; never freed.
+    static VelLookUpTable<VelExpressTypeEnum, QString>* myNames;
+
+    VelExpressTypeEnum myValue = ExpressableType_UNKNOWN;
+};
+
+#endif

@@ -1,0 +1,67 @@
+#ifndef VELORDERSOURCE_H
+#define VELORDERSOURCE_H
+
+#include "frame/VelEnumerations.h"
+#include "frame/VelTarmExport.h"
+
+#include <QDebug>
+#include <QDomElement>
+#include <QString>
+
+/**
+ * By which way an order reaches the shop and by which way the goods come back: the pair by which the shop prices and
+ * permits. A value.
+ */
+class VELTARM_EXPORT VelOrderSource
+{
+public:
+    /// Stores both halves; nothing is tested, see isValid().
+    VelOrderSource(VelInputSource theInputSource, VelDeliveryType theDeliveryType)
+        : myInputSource(theInputSource), myDeliveryType(theDeliveryType)
+    {
+    }
+
+    /// Reads the attributes `input_source` and `delivery_type`; a missing one is the wild value -1.
+    explicit VelOrderSource(const QDomElement& theElement);
+
+    static VelOrderSource onlineMailOrder() { return {INPUT_SOURCE_NET, DELIVERY_TYPE_MAILORDER}; }
+    static VelOrderSource onlinePointOfSale() { return {INPUT_SOURCE_NET, DELIVERY_TYPE_POS}; }
+    static VelOrderSource kioskOnSite() { return {INPUT_SOURCE_KIOSK, DELIVERY_TYPE_ON_SITE}; }
+    static VelOrderSource cdMailOrder() { return {INPUT_SOURCE_CD, DELIVERY_TYPE_MAILORDER}; }
+    static VelOrderSource cdPointOfSale() { return {INPUT_SOURCE_CD, DELIVERY_TYPE_POS}; }
+
+    VelInputSource inputSource() const { return myInputSource; }
+    VelDeliveryType deliveryType() const { return myDeliveryType; }
+
+    bool isOnlineMailOrder() const { return *this == onlineMailOrder(); }
+    bool isOnlinePointOfSale() const { return *this == onlinePointOfSale(); }
+    bool isKioskOnSite() const { return *this == kioskOnSite(); }
+    bool isCDMailOrder() const { return *this == cdMailOrder(); }
+    bool isCDPointOfSale() const { return *this == cdPointOfSale(); }
+
+    /// False when a half is unknown (-2), and when a kiosk does not deliver on site or anything else does. The wild
+    /// pair (-1, -1) is valid.
+    bool isValid() const;
+
+    /// The two document keys joined by an underscore, as "0_1"; "_" for the wild pair.
+    QString toSquishString() const;
+
+    bool operator==(const VelOrderSource& theOther) const
+    {
+        return myInputSource == theOther.myInputSource && myDeliveryType == theOther.myDeliveryType;
+    }
+    bool operator!=(const VelOrderSource& theOther) const { return !(*this == theOther); }
+
+    /// By input source, then delivery type, as signed numbers.
+    bool operator<(const VelOrderSource& theOther) const;
+
+private:
+    VelInputSource myInputSource;
+    VelDeliveryType myDeliveryType;
+};
+
+Q_DECLARE_TYPEINFO(VelOrderSource, Q_MOVABLE_TYPE);
+
+VELTARM_EXPORT QDebug operator<<(QDebug theDebug, const VelOrderSource& theOrderSource);
+
+#endif
