@@ -1,0 +1,170 @@
+#ifndef VELTARMPRICEINFO_H
+#define VELTARMPRICEINFO_H
+
+#include "price/VelTarmPriceKey.h"
+#include "price/VelTarmPriceValue.h"
+#include "price/VelTarmStoredPrice.h"
+
+#include <QList>
+#include <QSet>
+
+#include <vector>
+
+class VelOrderStatistic;
+class VelProductAbstract;
+class VelTarmBill;
+class VelTarmBillPositionList;
+
+/**
+ * All prices of one article, and what a quantity costs. All amounts are whole cents; -1 means that there is no price
+ * and 0 is a real price. Amounts and counts are multiplied and added unchecked and wrap around.
+ *
+ * The store: each price entry of the document stands under every order source that it spans, with its own copy of the
+ * value, at its level and model. No part of a store key is wild. The copies stand sorted by order source, model and
+ * level in one block, so that a rule finds the bands of a model side by side.
+ *
+ * The rules: the model is chosen among those that have entries, then the level within the model, then the model's own
+ * rule gives the amount. A null VelTarmBillPositionList asks for the amount only; otherwise positions made on the heap
+ * are appended to it, which its owner releases.
+ */
+class VelTarmPriceInfo
+{
+    Q_DISABLE_COPY(VelTarmPriceInfo)
+
+public:
+    /// Reads the prices of an article's element. The product is borrowed.
+    VelTarmPriceInfo(VelProductAbstract* theProduct, const QDomElement& theArticle);
+
+    /// Replaces all prices by those of the children `base_prices` and `discount_prices`, the first of each.
+    void update(const QDomElement& theArticle);
+    void clearAllPriceInformation();
+
+    /// Reads every child element of a group, whatever its tag.
+    void parsePricesGroup(const QDomElement& theGroup);
+
+    /// Reads one entry. An entry of a model that this version doesn't know is dropped without a word. The last entry
+    /// of a key wins. Upper limits are right for all entries read so far.
+    void parsePrice(const QDomElement& theEntry);
+
+    VelDiscountModel discountModel(const QDomElement& theEntry) const;
+
+    /// TRANSFER_MODEL_UNDEFINED but for entries of a `transfer`: there what its `model` says, and 1 for all unknowns.
+    VelTransferModel transferModel(const QDomElement& theEntry) const;
+
+    /// That of the entry last read; TRANSFER_MODEL_UNDEFINED when none was.
+    VelTransferModel transferModel() const { return myTransferModel; }
+    VelProductAbstract* product() const { return myProduct; }
+
+    /// The highest level in the document, 0 for none.
+    int maxDiscountLevel() const { return myMaxDiscountLevel; }
+
+    /// What an entry's source stands for: ANY for net and CD, each of the three for itself, all else for nothing.
+    QList<VelInputSource> inputSources(const VelInputSource& theInputSource) const;
+
+    /// ANY stands for point of sale and mail order, each of the three for itself, all else for nothing.
+    QList<VelDeliveryType> deliveryTypes(const VelDeliveryType& theDeliveryType) const;
+
+    /// The value under exactly that key, VelTarmPriceValue::invalidPrice() when there is none; never null. Valid until
+    /// the next update.
+    VelTarmPriceValue* priceValue(const VelTarmPriceKey& theKey) const;
+
+    /// The value of the key's order source under DISCOUNT_MODEL_BULK at level 0.
+    VelTarmPriceValue* basePriceValue(const VelTarmPriceKey& theKey) const;
+    int nonOfferPrice(const VelTarmPriceKey& theKey) const;
+    QDateTime endOfferDate(const VelTarmPriceKey& theKey) const;
+
+    /// The bands that the pattern covers. A base limit (from 0, open above) stays only while it is the last limit of
+    /// its model. Empty for a pattern of level 0 under another model than bulk.
+    QSet<VelDiscountLimit> discountLimits(const VelTarmPriceKey& thePattern) const;
+
+    /// Writes models and entries to the debug log.
+    void dump() const;
+
+    /// What the count costs, under the best model and level. The positions go to the bill when it is not null. Mind
+    /// that the bill stands before the billing sum. The statistic is the order that a transfer product under
+    /// TRANSFER_MODEL_2 ships; null counts as an empty one.
+    int priceFor(const VelTarmPriceKey& theKey, int theCount, VelTarmBill* theBill, int theBillingSum,
+                 const VelOrderStatistic* theStatistic) const;
+
+    /// What the count costs under exactly the model of the key.
+    int priceInModel(const VelTarmPriceKey& theKey, int theCount, int theBillingSum, VelTarmBill* theBill) const;
+
+    /// The model that priceFor will use, DISCOUNT_MODEL_UNDEFINED when none has a price.
+    VelDiscountModel bestDiscountModel(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
+                                       int theInheritedLevel) const;
+
+    /// The highest level from 1 up whose lower limit the count reaches, 0 for none.
+    int bestDiscountLevel(const VelTarmPriceKey& theKey, int theCount, bool thePackagesOnly) const;
+
+    int priceBulk(const VelTarmPriceKey& theKey, int theCount, VelTarmBillPositionList* thePositions) const;
+    int pricePackage(const VelTarmPriceKey& theKey, int theCount, VelTarmBillPositionList* thePositions) const;
+    int priceInheritedDiscount(const VelTarmPriceKey& theKey, int theCount,
+                               VelTarmBillPositionList* thePositions) const;
+    int priceExpressFee(const VelTarmPriceKey& theKey, int theCount, VelTarmBillPositionList* thePositions) const;
+    int priceBulkTransfer(const VelTarmPriceKey& theKey, int theCount, VelTarmBillPositionList* thePositions) const;
+    int priceBillingSumTransfer(const VelTarmPriceKey& theKey, int theBillingSum,
+                                VelTarmBillPositionList* thePositions) const;
+
+    /// The price of the band that a limit describes, -1 when there is no such band.
+    int priceAtBound(const VelTarmPriceKey& theKey, const VelDiscountLimit& theLimit) const;
+
+    /// The last quantity of the key's band: one less than where the next level begins; -1 without a next level.
+    int countItemsAtUpperBound(const VelTarmPriceKey& theKey) const;
+
+    /// Shipping without a bill. Under TRANSFER_MODEL_2 it is the base charge alone, deliberately.
+    int transferPriceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
+                         const VelOrderStatistic* theStatistic) const;
+    int priceInTransferModel2(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic,
+                              VelTarmBill* theBill) const;
+
+    /// The highest base charge among the products of the order, at least 0.
+    int baseTransferPriceInTransferModel2(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic) const;
+
+    /// The unit charges of all items but one: an item of the first product with the highest base charge pays none.
+    int unitTransferPriceInTransferModel2(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic) const;
+
+    /// `transfer_base_price` and `transfer_unit_price` of the base entry, 0 without one.
+    int baseTransferPrice(const VelTarmPriceKey& theKey) const;
+    int unitTransferPrice(const VelTarmPriceKey& theKey) const;
+
+private:
+    using Prices = std::vector<VelTarmStoredPrice>;
+
+    /// Consecutive levels of one order source and model, rising.
+    struct Bands
+    {
+        Prices::const_iterator myBegin;
+        Prices::const_iterator myEnd;
+        Prices::const_iterator begin() const { return myBegin; }
+        Prices::const_iterator end() const { return myEnd; }
+    };
+
+    Prices::const_iterator firstNotBefore(const VelTarmPricePlace& thePlace) const;
+    const VelTarmPriceValue* find(const VelTarmPricePlace& thePlace) const;
+    const VelTarmPriceValue& valueOrInvalid(const VelTarmPricePlace& thePlace) const;
+    const VelTarmPriceValue& baseValue(const VelTarmPriceKey& theKey) const;
+    Bands bands(const VelOrderSource& theSource, VelDiscountModel theModel, int theLowestLevel,
+                int theHighestLevel) const;
+    int itemsAtUpperBound(const VelTarmPricePlace& thePlace) const;
+    void store(const VelOrderSource& theSource, const VelTarmPriceValue& theValue);
+    void refreshUpperLimit(const VelTarmPricePlace& thePlace);
+
+    VelDiscountModel searchBestModel(VelTarmPriceKey& theWorkingKey, int theCount, int theBillingSum,
+                                     int theInheritedLevel) const;
+    int levelReached(const VelOrderSource& theSource, VelDiscountModel theModel, int theCount,
+                     bool thePackagesOnly) const;
+    int inheritedLevel(const VelTarmBill* theBill) const;
+    int applyRule(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
+                  VelTarmBillPositionList* thePositions) const;
+    int priceOfOneFee(const VelTarmPricePlace& thePlace, VelTarmBillPositionList* thePositions) const;
+    void appendPosition(VelTarmBillPositionList* thePositions, const VelTarmPriceValue& theValue,
+                        VelDiscountModel theModel, int theLevel, int theCount) const;
+
+    VelProductAbstract* myProduct;
+    Prices myPrices;               ///< sorted by place, each place once
+    unsigned myDiscountModels = 0; ///< the models that occur in entries, as bits: bit n for the model n
+    int myMaxDiscountLevel = 0;
+    VelTransferModel myTransferModel = TRANSFER_MODEL_UNDEFINED;
+};
+
+#endif

@@ -1,0 +1,61 @@
+#ifndef VELTARMPRICEVALUE_H
+#define VELTARMPRICEVALUE_H
+
+#include "frame/VelTarmExport.h"
+#include "price/VelDiscountLimit.h"
+
+#include <QDateTime>
+#include <QDomElement>
+
+/// One price entry of the price list: its limit with the amounts, all in whole cents, and its offer.
+class VELTARM_EXPORT VelTarmPriceValue
+{
+public:
+    /// Reads `price` (default -1), `transfer_unit_price` and `transfer_base_price` (0), `non_offer_price` (-1),
+    /// `end_offer_date` (ISO, default the Unix epoch), and the limit.
+    explicit VelTarmPriceValue(const QDomElement& theEntry);
+
+    /// The one invalid value, as read from an entry without attributes; it lives to the end of the process.
+    static VelTarmPriceValue* invalidPrice();
+
+    /// Whether the value differs from invalidPrice(), the upper limit included. So an entry that says nothing is
+    /// invalid until a following level gives it an upper limit, and a price of -1 alone does not make one invalid.
+    bool isValid() const { return *this != *invalidPrice(); }
+
+    bool operator==(const VelTarmPriceValue& theOther) const;
+    bool operator!=(const VelTarmPriceValue& theOther) const { return !(*this == theOther); }
+    bool operator==(const VelTarmPriceValue* theOther) const { return *this == *theOther; }
+    bool operator!=(const VelTarmPriceValue* theOther) const { return *this != *theOther; }
+
+    /// Cents; -1 for no price.
+    int price() const { return myPrice; }
+
+    /// Cents of shipping for the first item of an order under transfer model 2.
+    int baseTransferPrice() const { return myBaseTransferPrice; }
+
+    /// Cents of shipping for each further item under transfer model 2.
+    int unitTransferPrice() const { return myUnitTransferPrice; }
+
+    /// Cents that are shown as the old price while the offer runs; -1 for none.
+    int nonOfferPrice() const { return myNonOfferPrice; }
+    QDateTime endOfferDate() const { return myEndOfferDate; }
+
+    VelDiscountLimit discountLimit() const { return myDiscountLimit; }
+    int lowerLimit() const { return myDiscountLimit.lowerLimit(); }
+    int upperLimit() const { return myDiscountLimit.upperLimit(); }
+    int discountLevel() const { return myDiscountLimit.level(); }
+    bool isPackagePrice() const { return myDiscountLimit.isPackage(); }
+    void setUpperLimit(int theUpperLimit) { myDiscountLimit.setUpperLimit(theUpperLimit); }
+
+private:
+    int myPrice;
+    VelDiscountLimit myDiscountLimit;
+    int myUnitTransferPrice;
+    int myBaseTransferPrice;
+    int myNonOfferPrice;
+    QDateTime myEndOfferDate;
+};
+
+Q_DECLARE_TYPEINFO(VelTarmPriceValue, Q_MOVABLE_TYPE);
+
+#endif
