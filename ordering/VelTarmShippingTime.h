@@ -1,0 +1,39 @@
+#ifndef VELTARMSHIPPINGTIME_H
+#define VELTARMSHIPPINGTIME_H
+
+#include "frame/VelExpressType.h"
+#include "frame/VelTarmExport.h"
+
+#include <QDomElement>
+
+/// How many days an article takes by one delivery type and express type. A value.
+class VELTARM_EXPORT VelTarmShippingTime
+{
+public:
+    /// Invalid: unknown delivery and express type, -1 days.
+    VelTarmShippingTime() = default;
+
+    /// Reads `days` ("3" or "3-5"), `delivery_type` and `express`; the tag is not looked at.
+    explicit VelTarmShippingTime(const QDomElement& theElement);
+
+    /// -1 when the document says no number. The document may give the higher number first.
+    int minDays() const { return myMinDays; }
+    int maxDays() const { return myMaxDays; }
+    VelDeliveryType deliveryType() const { return myDeliveryType; }
+    VelExpressType expressType() const { return myExpressType; }
+
+    /// Whether both types are known; the days play no part.
+    bool isValid() const { return myDeliveryType != DELIVERY_TYPE_UNKNOWN && myExpressType.isValid(); }
+    bool varies() const { return myMinDays != myMaxDays; }
+    bool operator==(const VelTarmShippingTime& theOther) const;
+
+private:
+    void readDays(const QString& theText);
+
+    VelDeliveryType myDeliveryType = DELIVERY_TYPE_UNKNOWN;
+    VelExpressType myExpressType;
+    int myMinDays = -1;
+    int myMaxDays = -1;
+};
+
+#endif
