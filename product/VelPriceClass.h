@@ -1,0 +1,26 @@
+#ifndef VELPRICECLASS_H
+#define VELPRICECLASS_H
+
+#include "frame/VelTarmExport.h"
+
+#include <QString>
+
+/// The text of a price class, for users of the library. A value.
+class VELTARM_EXPORT VelPriceClass
+{
+public:
+    explicit VelPriceClass(const QString& thePriceClass) { setPriceClass(thePriceClass); }
+
+    void setPriceClass(const QString& thePriceClass) { myPriceClass = thePriceClass; }
+    QString toString() const { return myPriceClass; }
+    bool operator==(const VelPriceClass& theOther) const { return myPriceClass == theOther.myPriceClass; }
+    bool operator!=(const VelPriceClass& theOther) const { return !(*this == theOther); }
+
+    /// Whether the text is empty or begins with "0".
+    bool isFree() const { return myPriceClass.isEmpty() || myPriceClass.at(0) == QLatin1Char('0'); }
+
+private:
+    QString myPriceClass;
+};
+
+#endif

@@ -1,0 +1,184 @@
+#ifndef VELPRODUCTABSTRACT_H
+#define VELPRODUCTABSTRACT_H
+
+#include "bill/VelTarmArticle.h"
+#include "frame/VelEnumerations.h"
+#include "frame/VelTarmExport.h"
+#include "sibling/VelProductGroup.h"
+
+#include <QDebug>
+#include <QDomElement>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+/**
+ * The base of everything that can stand on a bill. It holds what an element of the price list says about the product
+ * beyond the article, and owns the article, to which it passes all price questions. Fee products are direct instances.
+ *
+ * A product is known by its article ID. The registry owns the products of the price list and never deletes one at a
+ * reload: a product that left the price list is deprecated. Amounts are whole cents; -1 means that there is no price.
+ */
+class VELTARM_EXPORT VelProductAbstract
+{
+    Q_DISABLE_COPY(VelProductAbstract)
+
+public:
+    static const QString STR_TYPE;         ///< "TYPE=", key of the order-text type
+    static const QString STR_SCALE;        ///< "SCALE=", key of the variant within a type
+    static const QString STR_SALESLINE;    ///< "SALESLINE=", key of the sales line
+    static const QString STR_DESIGN;       ///< "[DESIGN]", order-text head of a design add-on
+    static const QString STR_FRAME;        ///< "[FRAME]", of a frame add-on
+    static const QString STR_WALL_HOLDER;  ///< "[WALL_HOLDER]", of a wall holder
+    static const QString STR_PAGE_PACKAGE; ///< "[PAGES]", of a page package
+
+    /// Reads an element of the price list; the class stays for the object's life.
+    VelProductAbstract(const QDomElement& theElement, VelProductClass theProductClass);
+    virtual ~VelProductAbstract();
+
+    /// True, always; the null product is no exception.
+    virtual bool isValid() const { return true; }
+
+    /// The price of one piece under the global status.
+    virtual int price() const;
+    virtual int price(const VelTarmPriceKey& theKey, int theCount, int theBillingSum) const;
+
+    /// The lowest of minPriceFor over the four standard ways of ordering; 2147483647 when no price was found.
+    virtual int minPrice(bool theAllLimits) const;
+
+    /// The lowest price at the bounds of discountLimits, 2147483647 for none. Without theAllLimits the first limit of
+    /// the set alone decides, deliberately: whether it has a price or not.
+    virtual int minPriceFor(const VelTarmPriceKey& theKey, bool theAllLimits) const;
+
+    /// The highest price of one piece over the four standard ways of ordering; a way without a price counts -1.
+    virtual int priceFirstFit() const;
+    virtual int articleID() const { return myArticle->articleID(); }
+    virtual QString fullQualifiedName() const { return name(); }
+    virtual QStringList toOrderTxt() const { return myArticle->toOrderTxt(); }
+    virtual QSize printPixelSize() const { return myArticle->sizeInPixels(); }
+
+    /// A photo product turned to the orientation of the reference; all others keep theirs. A square is not landscape.
+    virtual QSize printPixelSize(const QSize& theReference) const;
+    virtual QSize printSizeInMM() const { return myArticle->sizeInMM(); }
+    virtual int printDPI() const { return myArticle->dpi(); }
+
+    /// What a reload runs on an existing product. Not virtual, deliberately: what the constructors of subclasses read
+    /// keeps its first value. A real element revives the product, a null one leaves it deprecated.
+    void update(const QDomElement& theElement);
+
+    VelTarmArticle* tarmArticle() const { return myArticle; }
+
+    /// Attribute `group`, -1 when missing.
+    int shippingGroupId() const { return myShippingGroupId; }
+
+    /// Derived from arrangement, shipping group and sales line.
+    VelProductGroup productGroup() const { return myProductGroup; }
+
+    /// Attribute `arrangement`, its words combined by OR.
+    VelProductArrangement arrangement() const { return myArrangement; }
+
+    /// Whether the element last read was an `add_on`.
+    bool isAddOn() const { return myIsAddOn; }
+
+    /// Whether the product is missing from the price list last read.
+    bool isDeprecated() const { return myIsDeprecated; }
+    void setDeprecated(bool theIsDeprecated) { myIsDeprecated = theIsDeprecated; }
+
+    /// Whether the product's class and the mask share a bit.
+    bool isProductClass(VelProductClass theMask) const { return (myProductClass & theMask) != 0; }
+    bool isPrintFunProduct() const { return isProductClass(PRODUCT_CLASS_PRINT_FUN_MASK); }
+    bool isKindOfBook() const { return isProductClass(PRODUCT_CLASS_FOTO_BOOK); }
+
+    /// Whether the group is one of the photo and poster groups.
+    bool isFotoProduct() const;
+    bool isProductGroup(const VelProductGroup& theGroup) const { return theGroup.matches(myProductGroup); }
+
+    /// The article's name, with a translated suffix on a deprecated product.
+    QString name() const;
+    QString editorName() const { return myArticle->editorName(); }
+
+    /// The order-text head without its brackets, or the order-text type when that is empty.
+    QString isoFileNameSuggestion() const;
+
+    /// Whether the product is current and the key account sells its shipping group.
+    bool isOrderable() const;
+
+    QString orderTxtHead() const { return myArticle->orderTxtHead(); }
+    QString orderTxtValue(const QString& theKey) const { return myArticle->orderTxtValue(theKey); }
+    QString orderTxtType() const { return orderTxtValue(STR_TYPE); }
+    QString orderTxtScale() const { return orderTxtValue(STR_SCALE); }
+    QString orderTxtSalesline() const { return orderTxtValue(STR_SALESLINE); }
+
+    /// By the order-text head, exactly and case-sensitively.
+    bool isDesign() const { return orderTxtHead() == STR_DESIGN; }
+    bool isFrame() const { return orderTxtHead() == STR_FRAME; }
+    bool isWallHolder() const { return orderTxtHead() == STR_WALL_HOLDER; }
+    bool isPagePackage() const { return orderTxtHead() == STR_PAGE_PACKAGE; }
+
+    /// Whether the order-text value "BORDER" is "1".
+    bool canHaveBorderColor() const;
+
+    /// Width times height of the print size in pixels; wraps around.
+    int countPrintPixels() const;
+
+    /// Whether there is a price at a point of sale.
+    bool orderableViaPOS() const { return myArticle->canOrderPOS(); }
+
+    /// These pass on to the article.
+    int priceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum, VelTarmBill* theBill,
+                 const VelOrderStatistic* theStatistic) const
+    {
+        return myArticle->priceFor(theKey, theCount, theBillingSum, theBill, theStatistic);
+    }
+    int transferPriceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
+                         const VelOrderStatistic* theStatistic) const
+    {
+        return myArticle->transferPriceFor(theKey, theCount, theBillingSum, theStatistic);
+    }
+    int unitTransferPriceFor(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic) const
+    {
+        return myArticle->unitTransferPriceFor(theKey, theStatistic);
+    }
+    QSet<VelDiscountLimit> discountLimits(const VelTarmPriceKey& theKey) const
+    {
+        return myArticle->discountLimits(theKey);
+    }
+    int priceAtBound(const VelTarmPriceKey& theKey, const VelDiscountLimit& theLimit) const
+    {
+        return myArticle->priceAtBound(theKey, theLimit);
+    }
+    VelTransferModel transferModel() const { return myArticle->transferModel(); }
+    int baseTransferPrice(const VelTarmPriceKey& theKey) const { return myArticle->baseTransferPrice(theKey); }
+    int unitTransferPrice(const VelTarmPriceKey& theKey) const { return myArticle->unitTransferPrice(theKey); }
+    int nonOfferPrice(const VelTarmPriceKey& theKey) const { return myArticle->nonOfferPrice(theKey); }
+    QDateTime endOfferDate(const VelTarmPriceKey& theKey) const { return myArticle->endOfferDate(theKey); }
+    bool shippingTimesEnabled() const { return myArticle->shippingTimesEnabled(); }
+    VelTarmShippingTime shippingTime(VelDeliveryType theDeliveryType, VelExpressType theExpressType) const
+    {
+        return myArticle->shippingTime(theDeliveryType, theExpressType);
+    }
+    bool isExpressable(VelDeliveryType theDeliveryType, VelExpressType theExpressType) const
+    {
+        return myArticle->isExpressable(theDeliveryType, theExpressType);
+    }
+    int qualityOnScaleForPPMM(double thePPMM) const { return myArticle->qualityOnScaleForPPMM(thePPMM); }
+
+    /// The one product that stands for none: deprecated, without a class. Built on first use without a lock, never
+    /// freed.
+    static VelProductAbstract* nullProduct();
+
+private:
+    void updateOwnInformation(const QDomElement& theElement);
+
+    VelTarmArticle* myArticle = nullptr;
+    int myShippingGroupId = -1;
+    VelProductGroup myProductGroup = VelProductGroup(PRODUCT_GROUP_UNKNOWN);
+    bool myIsAddOn = false;
+    bool myIsDeprecated = true;
+    VelProductArrangement myArrangement = PRODUCT_ARRANGEMENT_UNKNOWN;
+    VelProductClass myProductClass;
+};
+
+VELTARM_EXPORT QDebug operator<<(QDebug theDebug, const VelProductAbstract& theProduct);
+
+#endif

@@ -1,0 +1,65 @@
+#include "product/VelProductAddOn.h"
+
+#include "frame/VelChildElements.h"
+#include "sibling/VelXMLParser.h"
+
+namespace {
+
+const QString STR_LINKED_ARTICLES = QStringLiteral("linked_articles");
+const QString STR_LINKED_ARTICLE = QStringLiteral("linked_article");
+const QString STR_ID = QStringLiteral("id");
+const QString STR_PRODUCT_CLASS = QStringLiteral("product_class");
+const QString STR_REQUIREMENT = QStringLiteral("ANG1");
+
+const int NO_ARTICLE = -1;
+
+const QStringList& orderableByUser()
+{
+    static const QStringList words =
+        QStringLiteral("GPT1 WH2 WH3 WH4 WH5 WH6 WH7 WH8 WH9 WH10 WH11 ECT1 ECT2 ANG1").split(QLatin1Char(' '));
+    return words;
+}
+
+} // namespace
+
+VelProductAddOn::VelProductAddOn(const QDomElement& theElement)
+    : VelProductAbstract(theElement, PRODUCT_CLASS_ADD_ON)
+    , myProductClassWord(VelXMLParser::attribute(theElement, STR_PRODUCT_CLASS, QString()))
+{
+    const QDomElement links = theElement.namedItem(STR_LINKED_ARTICLES).toElement();
+    for (const QDomElement& link : VelChildElements(links, STR_LINKED_ARTICLE)) {
+        const int articleID = VelXMLParser::intAttribute(link, STR_ID, NO_ARTICLE);
+        if (articleID != NO_ARTICLE)
+            myArticleIDs.append(articleID);
+    }
+}
+
+bool VelProductAddOn::matches(int theArticleID, const QString& theProductClass) const
+{
+    return isCompatibleWithArticleId(theArticleID) && myProductClassWord == theProductClass;
+}
+
+bool VelProductAddOn::requirement() const
+{
+    return myProductClassWord == STR_REQUIREMENT;
+}
+
+bool VelProductAddOn::isOrderableByUser() const
+{
+    return orderableByUser().contains(myProductClassWord);
+}
+
+bool VelProductAddOn::isFreeTheme() const
+{
+    return myProductClassWord == QLatin1String("10") || myProductClassWord == QLatin1String("20");
+}
+
+QString VelProductAddOn::locrMapName()
+{
+    return QStringLiteral("MAP1");
+}
+
+QString VelProductAddOn::videoName()
+{
+    return QStringLiteral("VDO1");
+}

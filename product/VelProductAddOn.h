@@ -1,0 +1,40 @@
+#ifndef VELPRODUCTADDON_H
+#define VELPRODUCTADDON_H
+
+#include "product/VelProductAbstract.h"
+
+#include <QList>
+
+/// Anything sold only together with a main product: a design, frame, wall holder, page package, map or video.
+///
+/// The linked articles and the product class are read once, with the first element; an update leaves them.
+class VELTARM_EXPORT VelProductAddOn : public VelProductAbstract
+{
+public:
+    explicit VelProductAddOn(const QDomElement& theElement);
+
+    /// The article IDs of the main products that it fits, from `linked_articles`, in document order, duplicates kept.
+    const QList<int>& articleIDs() const { return myArticleIDs; }
+
+    /// Attribute `product_class`: the add-on's kind as a word; null when missing.
+    QString productClass() const { return myProductClassWord; }
+    bool isCompatibleWithArticleId(int theArticleID) const { return myArticleIDs.contains(theArticleID); }
+
+    /// Compatible with the article, and of that product class, case-sensitively.
+    bool matches(int theArticleID, const QString& theProductClass) const;
+    bool requirement() const;
+
+    /// Whether the customer may pick the add-on himself: a closed list of product classes.
+    bool isOrderableByUser() const;
+    bool isFreeTheme() const;
+
+    /// The product class of the map add-on, and that of the video add-on.
+    static QString locrMapName();
+    static QString videoName();
+
+private:
+    QList<int> myArticleIDs;
+    QString myProductClassWord;
+};
+
+#endif

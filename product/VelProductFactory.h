@@ -1,0 +1,45 @@
+#ifndef VELPRODUCTFACTORY_H
+#define VELPRODUCTFACTORY_H
+
+#include "frame/VelEnumerations.h"
+
+#include <QDomElement>
+#include <QRegExp>
+
+class VelProductAbstract;
+
+/// Turns one element of the price list into one product, or refuses it. For the one thread that loads. Every product
+/// is owned by the caller.
+class VelProductFactory
+{
+public:
+    /// Built on first use without a lock, never freed.
+    static VelProductFactory* instance();
+
+    /// Decides by the tag, then by the content. Null for what can't be built: an article of another than exactly one
+    /// arrangement, or a book or calendar whose `id` isn't compiled in, with a warning; all else without a word.
+    VelProductAbstract* build(const QDomElement& theElement) const;
+
+    VelProductAbstract* buildFotoBook(const QDomElement& theElement) const;
+    VelProductAbstract* buildCalendar(const QDomElement& theElement) const;
+    VelProductAbstract* buildCard(const QDomElement& theElement) const;
+    VelProductAbstract* buildGift(const QDomElement& theElement) const;
+    VelProductAbstract* buildPrintFun(const QDomElement& theElement, VelProductClass theProductClass) const;
+    VelProductAbstract* buildFoto(const QDomElement& theElement) const;
+    VelProductAbstract* buildContent(const QDomElement& theElement) const;
+    VelProductAbstract* buildExpressFee(const QDomElement& theElement) const;
+    VelProductAbstract* buildAdditionalFee(const QDomElement& theElement) const;
+    VelProductAbstract* buildTransfer(const QDomElement& theElement) const;
+
+private:
+    VelProductFactory();
+
+    VelProductAbstract* buildAddOn(const QDomElement& theElement) const;
+    VelProductAbstract* buildArticle(const QDomElement& theElement) const;
+
+    QRegExp myCalendarIds;
+    QRegExp myFotoBookIds;
+    QRegExp myExcludedProductClasses;
+};
+
+#endif
