@@ -1,0 +1,11 @@
+#ifndef VELSHOPEXITCODE_H
+#define VELSHOPEXITCODE_H
+
+/// What velshop tells the shell.
+enum VelshopExitCode : int {
+    EXIT_DONE = 0,
+    EXIT_NO_PRICE = 1, ///< the answer is that there is no price
+    EXIT_BAD_INPUT = 2 ///< a wrong argument or a document that can't be read
+};
+
+#endif

@@ -1,0 +1,28 @@
+#ifndef VELSHOPWORDS_H
+#define VELSHOPWORDS_H
+
+#include "frame/VelOrderSource.h"
+
+#include <QString>
+
+/// The order desk's own words for the vocabulary of the library.
+namespace VelshopWords {
+
+/// NET, CD, KIOSK in any case; false for any other word.
+bool readInputSource(const QString& theWord, VelInputSource& theInputSource);
+
+/// POS, MAIL, ONSITE in any case; false for any other word.
+bool readDeliveryType(const QString& theWord, VelDeliveryType& theDeliveryType);
+
+/// As "NET, MAIL".
+QString orderSource(const VelOrderSource& theOrderSource);
+
+/// As "bulk".
+QString discountModel(VelDiscountModel theDiscountModel);
+
+/// Whole cents, as "650 cents".
+QString amount(int theAmount);
+
+} // namespace VelshopWords
+
+#endif
