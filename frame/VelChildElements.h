@@ -30,8 +30,7 @@ public:
 
     /// An empty tag stands for any.
     explicit VelChildElements(const QDomNode& theParent, const QString& theTag = QString())
-        : myParent(theParent)
-        , myTag(theTag)
+        : myParent(theParent), myTag(theTag)
     {
     }
 

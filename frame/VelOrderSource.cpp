@@ -58,13 +58,6 @@ QString VelOrderSource::toSquishString() const
            EnumHelper::encodeDeliveryType(myDeliveryType);
 }
 
-bool VelOrderSource::operator<(const VelOrderSource& theOther) const
-{
-    if (myInputSource != theOther.myInputSource)
-        return myInputSource < theOther.myInputSource;
-    return myDeliveryType < theOther.myDeliveryType;
-}
-
 QDebug operator<<(QDebug theDebug, const VelOrderSource& theOrderSource)
 {
     theDebug << debugName(theOrderSource.inputSource()) << " " << debugName(theOrderSource.deliveryType());

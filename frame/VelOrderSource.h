@@ -53,7 +53,11 @@ public:
     bool operator!=(const VelOrderSource& theOther) const { return !(*this == theOther); }
 
     /// By input source, then delivery type, as signed numbers.
-    bool operator<(const VelOrderSource& theOther) const;
+    bool operator<(const VelOrderSource& theOther) const
+    {
+        return myInputSource != theOther.myInputSource ? myInputSource < theOther.myInputSource
+                                                       : myDeliveryType < theOther.myDeliveryType;
+    }
 
 private:
     VelInputSource myInputSource;

@@ -1,0 +1,47 @@
+#ifndef VELKEYACCOUNT_H
+#define VELKEYACCOUNT_H
+
+#include "sibling/VelSiblingExport.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHash>
+#include <QObject>
+
+/// The application's one key account: where its documents are and which shipping groups it uses.
+class VELSIBLING_EXPORT VelKeyAccount : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Built on first use, lives to the end of the process.
+    static VelKeyAccount* instance();
+
+    /// The two documents of the current key account; they need not exist. The flag is not looked at.
+    QFileInfo pricelistXMLFileInfo(bool theFlag) const;
+    QFileInfo orderingDetailsXMLFileInfo(bool theFlag) const;
+
+    /// Unless set otherwise, every id from 0 up is in use and no negative one.
+    bool shippingGroupEnabled(int theId) const;
+
+    /// For the host: set one thing each, and emit nothing.
+    void setPricelistXMLFileInfo(const QFileInfo& theFile);
+    void setOrderingDetailsXMLFileInfo(const QFileInfo& theFile);
+    void setShippingGroupEnabled(int theId, bool theEnabled);
+
+    /// For the host: changes to the key account whose folder holds `pricelist.xml` and `orderingdetails.xml`. Takes the
+    /// price list's time stamp from the file (none when it is missing) and emits applicationKeyAccountChanged() once.
+    void activate(const QDir& theKeyAccount);
+
+signals:
+    void applicationKeyAccountChanged();
+
+private:
+    VelKeyAccount() = default;
+
+    QFileInfo myPricelist;
+    QFileInfo myOrderingDetails;
+    QHash<int, bool> myShippingGroups;
+};
+
+#endif

@@ -1,0 +1,24 @@
+#ifndef VELPAGECOUNTORGANIZATION_H
+#define VELPAGECOUNTORGANIZATION_H
+
+#include "sibling/VelSiblingExport.h"
+
+/// The page counts that a product can have.
+class VELSIBLING_EXPORT VelPageCountOrganization
+{
+public:
+    /// No page organisation: all three are 0.
+    VelPageCountOrganization();
+    VelPageCountOrganization(unsigned int theLowest, unsigned int theHighest, unsigned int theStep);
+
+    unsigned int lowest() const { return myLowest; }
+    unsigned int highest() const { return myHighest; }
+    unsigned int step() const { return myStep; }
+
+private:
+    unsigned int myLowest;
+    unsigned int myHighest;
+    unsigned int myStep;
+};
+
+#endif

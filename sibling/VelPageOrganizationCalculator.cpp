@@ -1,0 +1,3 @@
+#include "sibling/VelPageOrganizationCalculator.h"
+
+VelPageOrganizationCalculator::~VelPageOrganizationCalculator() = default;

@@ -1,0 +1,3 @@
+#include "sibling/VelProductChecker.h"
+
+VelProductChecker::~VelProductChecker() = default;

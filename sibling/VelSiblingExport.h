@@ -1,0 +1,12 @@
+#ifndef VELSIBLINGEXPORT_H
+#define VELSIBLINGEXPORT_H
+
+#include <QtGlobal>
+
+#ifdef VELSIBLING_LIBRARY
+#define VELSIBLING_EXPORT Q_DECL_EXPORT
+#else
+#define VELSIBLING_EXPORT Q_DECL_IMPORT
+#endif
+
+#endif

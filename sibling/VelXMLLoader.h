@@ -1,0 +1,19 @@
+#ifndef VELXMLLOADER_H
+#define VELXMLLOADER_H
+
+#include "sibling/VelSiblingExport.h"
+
+#include <QDomElement>
+#include <QFileInfo>
+
+/// Loads XML documents.
+class VELSIBLING_EXPORT VelXMLLoader
+{
+public:
+    /// The document element of the file, a whole tree without a parent or siblings. Null, with one
+    /// warning, for a file that can't be read or is not XML. Hostile documents are refused the same way: those that
+    /// nest deeper than 256 levels, and those that declare entities or elements of their own.
+    static QDomElement loadDocumentElement(const QFileInfo& theFile);
+};
+
+#endif
