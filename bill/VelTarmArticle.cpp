@@ -1,6 +1,8 @@
 #include "bill/VelTarmArticle.h"
 
+#include "bill/VelTarmOrderTxtContent.h"
 #include "frame/VelArithmetic.h"
+#include "price/VelTarmPriceInfo.h"
 #include "sibling/VelXMLParser.h"
 
 namespace {
@@ -56,6 +58,73 @@ bool VelTarmArticle::canOrderPOS() const
         return priceFor(VelTarmPriceKey(theSource, -1, DISCOUNT_MODEL_UNDEFINED), 1, 0, nullptr, nullptr) > -1;
     };
     return hasPrice(VelOrderSource::cdPointOfSale()) || hasPrice(VelOrderSource::onlinePointOfSale());
+}
+
+int VelTarmArticle::priceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum, VelTarmBill* theBill,
+                             const VelOrderStatistic* theStatistic) const
+{
+    return myPriceInfo->priceFor(theKey, theCount, theBill, theBillingSum, theStatistic);
+}
+
+int VelTarmArticle::transferPriceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
+                                     const VelOrderStatistic* theStatistic) const
+{
+    return myPriceInfo->transferPriceFor(theKey, theCount, theBillingSum, theStatistic);
+}
+
+int VelTarmArticle::unitTransferPriceFor(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic) const
+{
+    return myPriceInfo->unitTransferPriceInTransferModel2(theKey, theStatistic);
+}
+
+int VelTarmArticle::baseTransferPrice(const VelTarmPriceKey& theKey) const
+{
+    return myPriceInfo->baseTransferPrice(theKey);
+}
+
+int VelTarmArticle::unitTransferPrice(const VelTarmPriceKey& theKey) const
+{
+    return myPriceInfo->unitTransferPrice(theKey);
+}
+
+VelTransferModel VelTarmArticle::transferModel() const
+{
+    return myPriceInfo->transferModel();
+}
+
+int VelTarmArticle::discountLevel(const VelTarmPriceKey& theKey, int theCount, int thePackageOnly) const
+{
+    return myPriceInfo->bestDiscountLevel(theKey, theCount, thePackageOnly != 0);
+}
+
+QSet<VelDiscountLimit> VelTarmArticle::discountLimits(const VelTarmPriceKey& theKey) const
+{
+    return myPriceInfo->discountLimits(theKey);
+}
+
+int VelTarmArticle::priceAtBound(const VelTarmPriceKey& theKey, const VelDiscountLimit& theLimit) const
+{
+    return myPriceInfo->priceAtBound(theKey, theLimit);
+}
+
+int VelTarmArticle::nonOfferPrice(const VelTarmPriceKey& theKey) const
+{
+    return myPriceInfo->nonOfferPrice(theKey);
+}
+
+QDateTime VelTarmArticle::endOfferDate(const VelTarmPriceKey& theKey) const
+{
+    return myPriceInfo->endOfferDate(theKey);
+}
+
+QString VelTarmArticle::orderTxtHead() const
+{
+    return myOrderTxtContent->head();
+}
+
+QString VelTarmArticle::orderTxtValue(const QString& theKey) const
+{
+    return myOrderTxtContent->orderTxtValue(theKey);
 }
 
 QString VelTarmArticle::orderTxtLines() const

@@ -1,24 +1,28 @@
 #ifndef VELTARMARTICLE_H
 #define VELTARMARTICLE_H
 
-#include "bill/VelTarmOrderTxtContent.h"
-#include "frame/VelTarmExport.h"
 #include "ordering/VelTarmShippingTimeList.h"
-#include "price/VelTarmPriceInfo.h"
+#include "price/VelDiscountLimit.h"
+#include "price/VelTarmPriceKey.h"
 
+#include <QDateTime>
 #include <QDomElement>
+#include <QSet>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 class VelOrderStatistic;
 class VelProductAbstract;
 class VelTarmBill;
+class VelTarmOrderTxtContent;
+class VelTarmPriceInfo;
 
 /**
  * The price-list face of one product: identity, print geometry, prices, order-text lines and shipping times, all read
  * from one element of the price list. Amounts are whole cents; -1 means that there is no price.
  */
-class VELTARM_EXPORT VelTarmArticle
+class VelTarmArticle
 {
     Q_DISABLE_COPY(VelTarmArticle)
 
@@ -66,38 +70,20 @@ public:
 
     /// Mind that billing sum and bill change places on the way to VelTarmPriceInfo::priceFor.
     int priceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum, VelTarmBill* theBill,
-                 const VelOrderStatistic* theStatistic) const
-    {
-        return myPriceInfo->priceFor(theKey, theCount, theBill, theBillingSum, theStatistic);
-    }
+                 const VelOrderStatistic* theStatistic) const;
     int transferPriceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
-                         const VelOrderStatistic* theStatistic) const
-    {
-        return myPriceInfo->transferPriceFor(theKey, theCount, theBillingSum, theStatistic);
-    }
-    int unitTransferPriceFor(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic) const
-    {
-        return myPriceInfo->unitTransferPriceInTransferModel2(theKey, theStatistic);
-    }
-    int baseTransferPrice(const VelTarmPriceKey& theKey) const { return myPriceInfo->baseTransferPrice(theKey); }
-    int unitTransferPrice(const VelTarmPriceKey& theKey) const { return myPriceInfo->unitTransferPrice(theKey); }
-    VelTransferModel transferModel() const { return myPriceInfo->transferModel(); }
+                         const VelOrderStatistic* theStatistic) const;
+    int unitTransferPriceFor(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic) const;
+    int baseTransferPrice(const VelTarmPriceKey& theKey) const;
+    int unitTransferPrice(const VelTarmPriceKey& theKey) const;
+    VelTransferModel transferModel() const;
 
     /// The level that the count reaches; any number but 0 asks for packages only.
-    int discountLevel(const VelTarmPriceKey& theKey, int theCount, int thePackageOnly) const
-    {
-        return myPriceInfo->bestDiscountLevel(theKey, theCount, thePackageOnly != 0);
-    }
-    QSet<VelDiscountLimit> discountLimits(const VelTarmPriceKey& theKey) const
-    {
-        return myPriceInfo->discountLimits(theKey);
-    }
-    int priceAtBound(const VelTarmPriceKey& theKey, const VelDiscountLimit& theLimit) const
-    {
-        return myPriceInfo->priceAtBound(theKey, theLimit);
-    }
-    int nonOfferPrice(const VelTarmPriceKey& theKey) const { return myPriceInfo->nonOfferPrice(theKey); }
-    QDateTime endOfferDate(const VelTarmPriceKey& theKey) const { return myPriceInfo->endOfferDate(theKey); }
+    int discountLevel(const VelTarmPriceKey& theKey, int theCount, int thePackageOnly) const;
+    QSet<VelDiscountLimit> discountLimits(const VelTarmPriceKey& theKey) const;
+    int priceAtBound(const VelTarmPriceKey& theKey, const VelDiscountLimit& theLimit) const;
+    int nonOfferPrice(const VelTarmPriceKey& theKey) const;
+    QDateTime endOfferDate(const VelTarmPriceKey& theKey) const;
 
     VelTarmShippingTime shippingTime(VelDeliveryType theDeliveryType, VelExpressType theExpressType) const
     {
@@ -108,8 +94,8 @@ public:
         return myShippingTimes.isExpressable(theDeliveryType, theExpressType);
     }
 
-    QString orderTxtHead() const { return myOrderTxtContent->head(); }
-    QString orderTxtValue(const QString& theKey) const { return myOrderTxtContent->orderTxtValue(theKey); }
+    QString orderTxtHead() const;
+    QString orderTxtValue(const QString& theKey) const;
 
     /// The lines between head and description, joined by newlines.
     QString orderTxtLines() const;

@@ -17,8 +17,10 @@ public:
     VelDiscountLimit(VelDiscountModel theDiscountModel, int theLowerLimit, int theUpperLimit, int theLevel,
                      bool theIsPackage);
 
-    /// A copy; a model other than DISCOUNT_MODEL_UNDEFINED takes the place of the copied one.
-    VelDiscountLimit(const VelDiscountLimit& theLimit, VelDiscountModel theDiscountModel = DISCOUNT_MODEL_UNDEFINED);
+    VelDiscountLimit(const VelDiscountLimit&) = default;
+
+    /// A copy with the model in place of the copied one, unless it is DISCOUNT_MODEL_UNDEFINED.
+    VelDiscountLimit(const VelDiscountLimit& theLimit, VelDiscountModel theDiscountModel);
 
     /// Reads a price entry: `quantity` (default 0), `level` (default 0) and `type`. Without a type the element two
     /// levels above decides: "F" below `transfer`, "X" below `express_fee`, else "B". The upper limit stays open.

@@ -79,9 +79,10 @@ VelTarmPriceInfo::VelTarmPriceInfo(VelProductAbstract* theProduct, const QDomEle
 
 QList<VelInputSource> VelTarmPriceInfo::inputSources(const VelInputSource& theInputSource) const
 {
+    static const QList<VelInputSource> netAndCD{INPUT_SOURCE_NET, INPUT_SOURCE_CD}; // the kiosk must be named
     switch (theInputSource) {
-    case INPUT_SOURCE_ANY: // not the kiosk, which must be named
-        return {INPUT_SOURCE_NET, INPUT_SOURCE_CD};
+    case INPUT_SOURCE_ANY:
+        return netAndCD;
     case INPUT_SOURCE_NET:
     case INPUT_SOURCE_CD:
     case INPUT_SOURCE_KIOSK:
@@ -93,9 +94,10 @@ QList<VelInputSource> VelTarmPriceInfo::inputSources(const VelInputSource& theIn
 
 QList<VelDeliveryType> VelTarmPriceInfo::deliveryTypes(const VelDeliveryType& theDeliveryType) const
 {
+    static const QList<VelDeliveryType> posAndMail{DELIVERY_TYPE_POS, DELIVERY_TYPE_MAILORDER}; // on site must be named
     switch (theDeliveryType) {
-    case DELIVERY_TYPE_ANY: // not on site, which must be named
-        return {DELIVERY_TYPE_POS, DELIVERY_TYPE_MAILORDER};
+    case DELIVERY_TYPE_ANY:
+        return posAndMail;
     case DELIVERY_TYPE_POS:
     case DELIVERY_TYPE_MAILORDER:
     case DELIVERY_TYPE_ON_SITE:
@@ -108,12 +110,12 @@ QList<VelDeliveryType> VelTarmPriceInfo::deliveryTypes(const VelDeliveryType& th
 VelTarmPriceValue* VelTarmPriceInfo::priceValue(const VelTarmPriceKey& theKey) const
 {
     const VelTarmPricePlace place{theKey.orderSource(), theKey.discountModel(), theKey.discountLevel()};
-    return const_cast<VelTarmPriceValue*>(&valueOrInvalid(place));
+    return &valueOrInvalid(place);
 }
 
 VelTarmPriceValue* VelTarmPriceInfo::basePriceValue(const VelTarmPriceKey& theKey) const
 {
-    return const_cast<VelTarmPriceValue*>(&baseValue(theKey));
+    return &baseValue(theKey);
 }
 
 int VelTarmPriceInfo::nonOfferPrice(const VelTarmPriceKey& theKey) const
@@ -155,8 +157,9 @@ void VelTarmPriceInfo::dump() const
 
     QMultiMap<VelTarmPriceKey, const VelTarmPriceValue*> pricesByKey;
     for (const VelTarmStoredPrice& price : myPrices)
-        pricesByKey.insert(VelTarmPriceKey(price.mySource, price.place().myLevel, price.place().myModel),
-                           &price.myValue);
+        pricesByKey.insert(
+            VelTarmPriceKey(price.mySource, price.myValue.discountLevel(), price.myValue.discountModel()),
+            &price.myValue);
     for (auto price = pricesByKey.cbegin(); price != pricesByKey.cend(); ++price) {
         const QString line = QStringLiteral("Key: (IS: %1, PY: %2, Level: %3, Model: %4) => (P: %5, Q: %6)")
                                  .arg(price.key().inputSource())
@@ -177,19 +180,21 @@ VelTarmPriceInfo::Prices::const_iterator VelTarmPriceInfo::firstNotBefore(const 
                             });
 }
 
-const VelTarmPriceValue* VelTarmPriceInfo::find(const VelTarmPricePlace& thePlace) const
+VelTarmPriceValue* VelTarmPriceInfo::find(const VelTarmPricePlace& thePlace) const
 {
     const auto price = firstNotBefore(thePlace);
-    return price == myPrices.end() || thePlace < price->place() ? nullptr : &price->myValue;
+    if (price == myPrices.end() || thePlace < price->place())
+        return nullptr;
+    return const_cast<VelTarmPriceValue*>(&price->myValue); // a value is handed out for writing even by const queries
 }
 
-const VelTarmPriceValue& VelTarmPriceInfo::valueOrInvalid(const VelTarmPricePlace& thePlace) const
+VelTarmPriceValue& VelTarmPriceInfo::valueOrInvalid(const VelTarmPricePlace& thePlace) const
 {
-    const VelTarmPriceValue* value = find(thePlace);
+    VelTarmPriceValue* value = find(thePlace);
     return value ? *value : *VelTarmPriceValue::invalidPrice();
 }
 
-const VelTarmPriceValue& VelTarmPriceInfo::baseValue(const VelTarmPriceKey& theKey) const
+VelTarmPriceValue& VelTarmPriceInfo::baseValue(const VelTarmPriceKey& theKey) const
 {
     return valueOrInvalid({theKey.orderSource(), DISCOUNT_MODEL_BULK, 0});
 }
@@ -243,7 +248,7 @@ void VelTarmPriceInfo::parsePricesGroup(const QDomElement& theGroup)
 void VelTarmPriceInfo::parsePrice(const QDomElement& theEntry)
 {
     const VelTarmPriceValue value(theEntry);
-    const VelDiscountModel model = value.discountLimit().discountModel();
+    const VelDiscountModel model = value.discountModel();
     if (isIgnored(model)) // how a client that is older than its price list survives new models
         return;
     myDiscountModels |= bitOf(model);
@@ -272,22 +277,18 @@ VelTransferModel VelTarmPriceInfo::transferModel(const QDomElement& theEntry) co
 
 void VelTarmPriceInfo::store(const VelOrderSource& theSource, const VelTarmPriceValue& theValue)
 {
-    const VelTarmStoredPrice price{theSource, theValue};
+    VelTarmStoredPrice price{theSource, theValue};
     const VelTarmPricePlace place = price.place();
+    price.myValue.setUpperLimit(itemsAtUpperBound(place));
     const auto next = firstNotBefore(place);
     if (next != myPrices.end() && !(place < next->place()))
         myPrices.at(static_cast<std::size_t>(next - myPrices.begin())) = price;
     else
         myPrices.insert(next, price);
-    // An entry tells its own upper limit and that of the level below; no other one can have changed.
-    refreshUpperLimit(place);
-    refreshUpperLimit({place.mySource, place.myModel, VelArithmetic::difference(place.myLevel, 1)});
-}
-
-void VelTarmPriceInfo::refreshUpperLimit(const VelTarmPricePlace& thePlace)
-{
-    if (const VelTarmPriceValue* value = find(thePlace))
-        const_cast<VelTarmPriceValue*>(value)->setUpperLimit(itemsAtUpperBound(thePlace));
+    // Besides its own upper limit an entry tells that of the level below; no other one can have changed.
+    const VelTarmPricePlace below{place.mySource, place.myModel, VelArithmetic::difference(place.myLevel, 1)};
+    if (VelTarmPriceValue* value = find(below))
+        value->setUpperLimit(VelArithmetic::difference(price.myValue.lowerLimit(), 1));
 }
 
 // ---- computing

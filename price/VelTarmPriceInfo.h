@@ -140,14 +140,13 @@ private:
     };
 
     Prices::const_iterator firstNotBefore(const VelTarmPricePlace& thePlace) const;
-    const VelTarmPriceValue* find(const VelTarmPricePlace& thePlace) const;
-    const VelTarmPriceValue& valueOrInvalid(const VelTarmPricePlace& thePlace) const;
-    const VelTarmPriceValue& baseValue(const VelTarmPriceKey& theKey) const;
+    VelTarmPriceValue* find(const VelTarmPricePlace& thePlace) const;
+    VelTarmPriceValue& valueOrInvalid(const VelTarmPricePlace& thePlace) const;
+    VelTarmPriceValue& baseValue(const VelTarmPriceKey& theKey) const;
     Bands bands(const VelOrderSource& theSource, VelDiscountModel theModel, int theLowestLevel,
                 int theHighestLevel) const;
     int itemsAtUpperBound(const VelTarmPricePlace& thePlace) const;
     void store(const VelOrderSource& theSource, const VelTarmPriceValue& theValue);
-    void refreshUpperLimit(const VelTarmPricePlace& thePlace);
 
     VelDiscountModel searchBestModel(VelTarmPriceKey& theWorkingKey, int theCount, int theBillingSum,
                                      int theInheritedLevel) const;

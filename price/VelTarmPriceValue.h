@@ -41,6 +41,7 @@ public:
     QDateTime endOfferDate() const { return myEndOfferDate; }
 
     VelDiscountLimit discountLimit() const { return myDiscountLimit; }
+    VelDiscountModel discountModel() const { return myDiscountLimit.discountModel(); }
     int lowerLimit() const { return myDiscountLimit.lowerLimit(); }
     int upperLimit() const { return myDiscountLimit.upperLimit(); }
     int discountLevel() const { return myDiscountLimit.level(); }

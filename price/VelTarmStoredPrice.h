@@ -4,8 +4,6 @@
 #include "frame/VelOrderSource.h"
 #include "price/VelTarmPriceValue.h"
 
-#include <tuple>
-
 /// Where a price stands in the store of an article: a price key's content, without the sharing.
 struct VelTarmPricePlace
 {
@@ -16,9 +14,11 @@ struct VelTarmPricePlace
     /// Sorts the levels of one order source and model side by side.
     bool operator<(const VelTarmPricePlace& theOther) const
     {
-        return std::make_tuple(mySource.inputSource(), mySource.deliveryType(), myModel, myLevel) <
-               std::make_tuple(theOther.mySource.inputSource(), theOther.mySource.deliveryType(), theOther.myModel,
-                               theOther.myLevel);
+        if (mySource != theOther.mySource)
+            return mySource < theOther.mySource;
+        if (myModel != theOther.myModel)
+            return myModel < theOther.myModel;
+        return myLevel < theOther.myLevel;
     }
 };
 
@@ -28,10 +28,7 @@ struct VelTarmStoredPrice
     VelOrderSource mySource;
     VelTarmPriceValue myValue;
 
-    VelTarmPricePlace place() const
-    {
-        return {mySource, myValue.discountLimit().discountModel(), myValue.discountLevel()};
-    }
+    VelTarmPricePlace place() const { return {mySource, myValue.discountModel(), myValue.discountLevel()}; }
 };
 
 Q_DECLARE_TYPEINFO(VelTarmStoredPrice, Q_MOVABLE_TYPE);

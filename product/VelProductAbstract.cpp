@@ -1,5 +1,6 @@
 #include "product/VelProductAbstract.h"
 
+#include "bill/VelTarmArticle.h"
 #include "frame/EnumHelper.h"
 #include "frame/VelArithmetic.h"
 #include "frame/VelEnumFlags.h"
@@ -152,6 +153,124 @@ int VelProductAbstract::countPrintPixels() const
 {
     const QSize size = printPixelSize();
     return VelArithmetic::product(size.width(), size.height());
+}
+
+int VelProductAbstract::articleID() const
+{
+    return myArticle->articleID();
+}
+
+QStringList VelProductAbstract::toOrderTxt() const
+{
+    return myArticle->toOrderTxt();
+}
+
+QSize VelProductAbstract::printPixelSize() const
+{
+    return myArticle->sizeInPixels();
+}
+
+QSize VelProductAbstract::printSizeInMM() const
+{
+    return myArticle->sizeInMM();
+}
+
+int VelProductAbstract::printDPI() const
+{
+    return myArticle->dpi();
+}
+
+QString VelProductAbstract::editorName() const
+{
+    return myArticle->editorName();
+}
+
+QString VelProductAbstract::orderTxtHead() const
+{
+    return myArticle->orderTxtHead();
+}
+
+QString VelProductAbstract::orderTxtValue(const QString& theKey) const
+{
+    return myArticle->orderTxtValue(theKey);
+}
+
+bool VelProductAbstract::orderableViaPOS() const
+{
+    return myArticle->canOrderPOS();
+}
+
+int VelProductAbstract::priceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum, VelTarmBill* theBill,
+                                 const VelOrderStatistic* theStatistic) const
+{
+    return myArticle->priceFor(theKey, theCount, theBillingSum, theBill, theStatistic);
+}
+
+int VelProductAbstract::transferPriceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
+                                         const VelOrderStatistic* theStatistic) const
+{
+    return myArticle->transferPriceFor(theKey, theCount, theBillingSum, theStatistic);
+}
+
+int VelProductAbstract::unitTransferPriceFor(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic) const
+{
+    return myArticle->unitTransferPriceFor(theKey, theStatistic);
+}
+
+QSet<VelDiscountLimit> VelProductAbstract::discountLimits(const VelTarmPriceKey& theKey) const
+{
+    return myArticle->discountLimits(theKey);
+}
+
+int VelProductAbstract::priceAtBound(const VelTarmPriceKey& theKey, const VelDiscountLimit& theLimit) const
+{
+    return myArticle->priceAtBound(theKey, theLimit);
+}
+
+VelTransferModel VelProductAbstract::transferModel() const
+{
+    return myArticle->transferModel();
+}
+
+int VelProductAbstract::baseTransferPrice(const VelTarmPriceKey& theKey) const
+{
+    return myArticle->baseTransferPrice(theKey);
+}
+
+int VelProductAbstract::unitTransferPrice(const VelTarmPriceKey& theKey) const
+{
+    return myArticle->unitTransferPrice(theKey);
+}
+
+int VelProductAbstract::nonOfferPrice(const VelTarmPriceKey& theKey) const
+{
+    return myArticle->nonOfferPrice(theKey);
+}
+
+QDateTime VelProductAbstract::endOfferDate(const VelTarmPriceKey& theKey) const
+{
+    return myArticle->endOfferDate(theKey);
+}
+
+bool VelProductAbstract::shippingTimesEnabled() const
+{
+    return myArticle->shippingTimesEnabled();
+}
+
+VelTarmShippingTime VelProductAbstract::shippingTime(VelDeliveryType theDeliveryType,
+                                                     VelExpressType theExpressType) const
+{
+    return myArticle->shippingTime(theDeliveryType, theExpressType);
+}
+
+bool VelProductAbstract::isExpressable(VelDeliveryType theDeliveryType, VelExpressType theExpressType) const
+{
+    return myArticle->isExpressable(theDeliveryType, theExpressType);
+}
+
+int VelProductAbstract::qualityOnScaleForPPMM(double thePPMM) const
+{
+    return myArticle->qualityOnScaleForPPMM(thePPMM);
 }
 
 QDebug operator<<(QDebug theDebug, const VelProductAbstract& theProduct)

@@ -1,16 +1,25 @@
 #ifndef VELPRODUCTABSTRACT_H
 #define VELPRODUCTABSTRACT_H
 
-#include "bill/VelTarmArticle.h"
 #include "frame/VelEnumerations.h"
+#include "frame/VelExpressType.h"
 #include "frame/VelTarmExport.h"
+#include "ordering/VelTarmShippingTime.h"
+#include "price/VelDiscountLimit.h"
+#include "price/VelTarmPriceKey.h"
 #include "sibling/VelProductGroup.h"
 
+#include <QDateTime>
 #include <QDebug>
 #include <QDomElement>
+#include <QSet>
 #include <QSize>
 #include <QString>
 #include <QStringList>
+
+class VelOrderStatistic;
+class VelTarmArticle;
+class VelTarmBill;
 
 /**
  * The base of everything that can stand on a bill. It holds what an element of the price list says about the product
@@ -52,15 +61,15 @@ public:
 
     /// The highest price of one piece over the four standard ways of ordering; a way without a price counts -1.
     virtual int priceFirstFit() const;
-    virtual int articleID() const { return myArticle->articleID(); }
+    virtual int articleID() const;
     virtual QString fullQualifiedName() const { return name(); }
-    virtual QStringList toOrderTxt() const { return myArticle->toOrderTxt(); }
-    virtual QSize printPixelSize() const { return myArticle->sizeInPixels(); }
+    virtual QStringList toOrderTxt() const;
+    virtual QSize printPixelSize() const;
 
     /// A photo product turned to the orientation of the reference; all others keep theirs. A square is not landscape.
     virtual QSize printPixelSize(const QSize& theReference) const;
-    virtual QSize printSizeInMM() const { return myArticle->sizeInMM(); }
-    virtual int printDPI() const { return myArticle->dpi(); }
+    virtual QSize printSizeInMM() const;
+    virtual int printDPI() const;
 
     /// What a reload runs on an existing product. Not virtual, deliberately: what the constructors of subclasses read
     /// keeps its first value. A real element revives the product, a null one leaves it deprecated.
@@ -95,7 +104,7 @@ public:
 
     /// The article's name, with a translated suffix on a deprecated product.
     QString name() const;
-    QString editorName() const { return myArticle->editorName(); }
+    QString editorName() const;
 
     /// The order-text head without its brackets, or the order-text type when that is empty.
     QString isoFileNameSuggestion() const;
@@ -103,8 +112,8 @@ public:
     /// Whether the product is current and the key account sells its shipping group.
     bool isOrderable() const;
 
-    QString orderTxtHead() const { return myArticle->orderTxtHead(); }
-    QString orderTxtValue(const QString& theKey) const { return myArticle->orderTxtValue(theKey); }
+    QString orderTxtHead() const;
+    QString orderTxtValue(const QString& theKey) const;
     QString orderTxtType() const { return orderTxtValue(STR_TYPE); }
     QString orderTxtScale() const { return orderTxtValue(STR_SCALE); }
     QString orderTxtSalesline() const { return orderTxtValue(STR_SALESLINE); }
@@ -122,46 +131,25 @@ public:
     int countPrintPixels() const;
 
     /// Whether there is a price at a point of sale.
-    bool orderableViaPOS() const { return myArticle->canOrderPOS(); }
+    bool orderableViaPOS() const;
 
     /// These pass on to the article.
     int priceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum, VelTarmBill* theBill,
-                 const VelOrderStatistic* theStatistic) const
-    {
-        return myArticle->priceFor(theKey, theCount, theBillingSum, theBill, theStatistic);
-    }
+                 const VelOrderStatistic* theStatistic) const;
     int transferPriceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
-                         const VelOrderStatistic* theStatistic) const
-    {
-        return myArticle->transferPriceFor(theKey, theCount, theBillingSum, theStatistic);
-    }
-    int unitTransferPriceFor(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic) const
-    {
-        return myArticle->unitTransferPriceFor(theKey, theStatistic);
-    }
-    QSet<VelDiscountLimit> discountLimits(const VelTarmPriceKey& theKey) const
-    {
-        return myArticle->discountLimits(theKey);
-    }
-    int priceAtBound(const VelTarmPriceKey& theKey, const VelDiscountLimit& theLimit) const
-    {
-        return myArticle->priceAtBound(theKey, theLimit);
-    }
-    VelTransferModel transferModel() const { return myArticle->transferModel(); }
-    int baseTransferPrice(const VelTarmPriceKey& theKey) const { return myArticle->baseTransferPrice(theKey); }
-    int unitTransferPrice(const VelTarmPriceKey& theKey) const { return myArticle->unitTransferPrice(theKey); }
-    int nonOfferPrice(const VelTarmPriceKey& theKey) const { return myArticle->nonOfferPrice(theKey); }
-    QDateTime endOfferDate(const VelTarmPriceKey& theKey) const { return myArticle->endOfferDate(theKey); }
-    bool shippingTimesEnabled() const { return myArticle->shippingTimesEnabled(); }
-    VelTarmShippingTime shippingTime(VelDeliveryType theDeliveryType, VelExpressType theExpressType) const
-    {
-        return myArticle->shippingTime(theDeliveryType, theExpressType);
-    }
-    bool isExpressable(VelDeliveryType theDeliveryType, VelExpressType theExpressType) const
-    {
-        return myArticle->isExpressable(theDeliveryType, theExpressType);
-    }
-    int qualityOnScaleForPPMM(double thePPMM) const { return myArticle->qualityOnScaleForPPMM(thePPMM); }
+                         const VelOrderStatistic* theStatistic) const;
+    int unitTransferPriceFor(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic) const;
+    QSet<VelDiscountLimit> discountLimits(const VelTarmPriceKey& theKey) const;
+    int priceAtBound(const VelTarmPriceKey& theKey, const VelDiscountLimit& theLimit) const;
+    VelTransferModel transferModel() const;
+    int baseTransferPrice(const VelTarmPriceKey& theKey) const;
+    int unitTransferPrice(const VelTarmPriceKey& theKey) const;
+    int nonOfferPrice(const VelTarmPriceKey& theKey) const;
+    QDateTime endOfferDate(const VelTarmPriceKey& theKey) const;
+    bool shippingTimesEnabled() const;
+    VelTarmShippingTime shippingTime(VelDeliveryType theDeliveryType, VelExpressType theExpressType) const;
+    bool isExpressable(VelDeliveryType theDeliveryType, VelExpressType theExpressType) const;
+    int qualityOnScaleForPPMM(double thePPMM) const;
 
     /// The one product that stands for none: deprecated, without a class. Built on first use without a lock, never
     /// freed.

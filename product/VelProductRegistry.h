@@ -34,6 +34,10 @@ class VELTARM_EXPORT VelProductRegistry : public QObject
 public:
     /// Built on the first call, which is guarded; never deleted. Nothing on the load path may call it.
     static VelProductRegistry* instance();
+
+    /// A registry beside the application's one, loaded from the current key account and owned by the caller. Prices of
+    /// add-ons look their main products up in instance().
+    VelProductRegistry();
     ~VelProductRegistry() override;
 
     /// Every main product and add-on ever read, in order of first appearance.
@@ -91,8 +95,6 @@ signals:
     void priceListUpdated();
 
 private:
-    VelProductRegistry();
-
     QHash<int, VelProductAbstract*> firstProductsByArticleID() const;
 
     QList<VelProductAbstract*> myProductList;
