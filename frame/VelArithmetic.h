@@ -26,11 +26,18 @@ inline int product(int theLeft, int theRight)
     return static_cast<int>(static_cast<quint32>(theLeft) * static_cast<quint32>(theRight));
 }
 
-/// The nearest whole number, halves away from zero; the most negative int for all that no int can hold.
+/// What qRound gives, halves upwards; the most negative int for all that no int can hold.
 inline int rounded(double theValue)
 {
-    const bool fits = theValue >= -2147483647.0 && theValue < 2147483647.0;
+    const bool fits = theValue > -2147483648.0 && theValue < 2147483647.5;
     return fits ? qRound(theValue) : std::numeric_limits<int>::min();
+}
+
+/// Cut towards zero; the most negative int for all that no int can hold, an infinite value and no number included.
+inline int truncated(double theValue)
+{
+    const bool fits = theValue >= -2147483648.0 && theValue < 2147483648.0;
+    return fits ? static_cast<int>(theValue) : std::numeric_limits<int>::min();
 }
 
 } // namespace VelArithmetic

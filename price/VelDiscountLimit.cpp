@@ -4,6 +4,8 @@
 #include "frame/VelEnumFlags.h"
 #include "sibling/VelXMLParser.h"
 
+#include <QMap>
+
 #include <tuple>
 
 namespace {
@@ -66,6 +68,18 @@ VelDiscountLimit::VelDiscountLimit(const QDomElement& theEntry)
         type = defaultType(tag);
     myDiscountModel = EnumHelper::decodeDiscountModel(type);
     myIsPackage = isPackageType(type, tag);
+}
+
+void VelDiscountLimit::removeSupersededBaseLimits(QSet<VelDiscountLimit>& theLimits)
+{
+    QMap<VelDiscountModel, int> limitsOfModel;
+    for (const VelDiscountLimit& limit : qAsConst(theLimits))
+        ++limitsOfModel[limit.discountModel()];
+    for (const VelDiscountLimit& limit : theLimits.values())
+        if (limit.isBaseLimit() && limitsOfModel.value(limit.discountModel()) > 1) {
+            theLimits.remove(limit);
+            --limitsOfModel[limit.discountModel()];
+        }
 }
 
 bool VelDiscountLimit::isTransferEntry(const QDomElement& theEntry)

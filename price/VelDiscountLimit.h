@@ -6,6 +6,7 @@
 
 #include <QDebug>
 #include <QDomElement>
+#include <QSet>
 
 /// When a price entry holds: its model, its band, its level, and whether the price is one for a package. A value.
 class VELTARM_EXPORT VelDiscountLimit
@@ -28,8 +29,14 @@ public:
 
     VelDiscountLimit& operator=(const VelDiscountLimit&) = default;
 
+    /// Removes base limits (from 0, open above), one after the other, as long as the set holds another limit of their
+    /// model: a model with real bands is shown by these alone, and of nothing but base limits one is left.
+    static void removeSupersededBaseLimits(QSet<VelDiscountLimit>& theLimits);
+
     /// Whether the entry belongs to a `transfer` element, the second level above it.
     static bool isTransferEntry(const QDomElement& theEntry);
+
+    bool isBaseLimit() const { return myUpperLimit == -1 && myLowerLimit == 0; }
 
     VelDiscountModel discountModel() const { return myDiscountModel; }
 

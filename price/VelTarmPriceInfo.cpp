@@ -45,18 +45,6 @@ bool winsAtOnce(VelDiscountModel theModel)
            theModel == DISCOUNT_MODEL_BILLING_SUM_TRANSFER || theModel == DISCOUNT_MODEL_INHERITED_DISCOUNT;
 }
 
-bool isBaseLimit(const VelDiscountLimit& theLimit)
-{
-    return theLimit.upperLimit() == -1 && theLimit.lowerLimit() == 0;
-}
-
-bool holdsAnotherOfItsModel(const QSet<VelDiscountLimit>& theLimits, const VelDiscountLimit& theLimit)
-{
-    return std::any_of(theLimits.begin(), theLimits.end(), [&](const VelDiscountLimit& theOther) {
-        return theOther.discountModel() == theLimit.discountModel() && theOther != theLimit;
-    });
-}
-
 /// The old price beside the new one, for as long as the offer lasts; the amount itself is not touched by an offer.
 /// The clock is read only where there is an old price to show.
 int shownNonOfferPrice(const VelTarmPriceValue& theValue)
@@ -133,19 +121,10 @@ QSet<VelDiscountLimit> VelTarmPriceInfo::discountLimits(const VelTarmPriceKey& t
     QSet<VelDiscountLimit> limits;
     if (thePattern.discountLevel() == 0 && thePattern.discountModel() != DISCOUNT_MODEL_BULK)
         return limits;
-    QList<VelDiscountLimit> baseLimits;
-    for (const VelTarmStoredPrice& price : myPrices) {
-        const VelDiscountLimit limit = price.myValue.discountLimit();
-        if (!thePattern.supercedes(VelTarmPriceKey(price.mySource, limit.level(), limit.discountModel())))
-            continue;
-        limits.insert(limit);
-        if (isBaseLimit(limit))
-            baseLimits.append(limit);
-    }
-    // One after the other from the shrinking set: of nothing but base limits of one model the last one stays.
-    for (const VelDiscountLimit& limit : qAsConst(baseLimits))
-        if (holdsAnotherOfItsModel(limits, limit))
-            limits.remove(limit);
+    for (const VelTarmStoredPrice& price : myPrices)
+        if (thePattern.supercedes(price.mySource, price.myValue.discountLevel(), price.myValue.discountModel()))
+            limits.insert(price.myValue.discountLimit());
+    VelDiscountLimit::removeSupersededBaseLimits(limits);
     return limits;
 }
 
@@ -226,8 +205,9 @@ int VelTarmPriceInfo::itemsAtUpperBound(const VelTarmPricePlace& thePlace) const
 void VelTarmPriceInfo::update(const QDomElement& theArticle)
 {
     clearAllPriceInformation();
-    parsePricesGroup(theArticle.firstChildElement(STR_BASE_PRICES));
-    parsePricesGroup(theArticle.firstChildElement(STR_DISCOUNT_PRICES));
+    readGroup(theArticle.firstChildElement(STR_BASE_PRICES));
+    readGroup(theArticle.firstChildElement(STR_DISCOUNT_PRICES));
+    settle();
     myPrices.shrink_to_fit();
 }
 
@@ -241,11 +221,24 @@ void VelTarmPriceInfo::clearAllPriceInformation()
 
 void VelTarmPriceInfo::parsePricesGroup(const QDomElement& theGroup)
 {
-    for (const QDomElement& entry : VelChildElements(theGroup))
-        parsePrice(entry);
+    readGroup(theGroup);
+    settle();
 }
 
 void VelTarmPriceInfo::parsePrice(const QDomElement& theEntry)
+{
+    readEntry(theEntry);
+    settle();
+}
+
+void VelTarmPriceInfo::readGroup(const QDomElement& theGroup)
+{
+    for (const QDomElement& entry : VelChildElements(theGroup))
+        readEntry(entry);
+}
+
+/// Appends the entry's prices; they stand in the store after settle().
+void VelTarmPriceInfo::readEntry(const QDomElement& theEntry)
 {
     const VelTarmPriceValue value(theEntry);
     const VelDiscountModel model = value.discountModel();
@@ -257,7 +250,23 @@ void VelTarmPriceInfo::parsePrice(const QDomElement& theEntry)
     const VelOrderSource written(theEntry);
     for (const VelInputSource inputSource : inputSources(written.inputSource()))
         for (const VelDeliveryType deliveryType : deliveryTypes(written.deliveryType()))
-            store(VelOrderSource(inputSource, deliveryType), value);
+            myPrices.push_back({VelOrderSource(inputSource, deliveryType), value});
+}
+
+/// Sorts the store, keeps the last one read of each place, and tells each its upper limit. Once for all entries rather
+/// than after each: an article with very many entries must not take for ever.
+void VelTarmPriceInfo::settle()
+{
+    const auto isBefore = [](const VelTarmStoredPrice& theLeft, const VelTarmStoredPrice& theRight) {
+        return theLeft.place() < theRight.place();
+    };
+    std::stable_sort(myPrices.begin(), myPrices.end(), isBefore);
+    const auto firstKept =
+        std::unique(myPrices.rbegin(), myPrices.rend(),
+                    [&](const auto& theLater, const auto& theEarlier) { return !isBefore(theEarlier, theLater); });
+    myPrices.erase(myPrices.begin(), firstKept.base());
+    for (VelTarmStoredPrice& price : myPrices)
+        price.myValue.setUpperLimit(itemsAtUpperBound(price.place()));
 }
 
 VelDiscountModel VelTarmPriceInfo::discountModel(const QDomElement& theEntry) const
@@ -273,22 +282,6 @@ VelTransferModel VelTarmPriceInfo::transferModel(const QDomElement& theEntry) co
     const VelTransferModel model =
         EnumHelper::decodeTransferModel(VelXMLParser::attribute(transfer, STR_MODEL, QString()));
     return model == TRANSFER_MODEL_UNDEFINED ? TRANSFER_MODEL_1 : model;
-}
-
-void VelTarmPriceInfo::store(const VelOrderSource& theSource, const VelTarmPriceValue& theValue)
-{
-    VelTarmStoredPrice price{theSource, theValue};
-    const VelTarmPricePlace place = price.place();
-    price.myValue.setUpperLimit(itemsAtUpperBound(place));
-    const auto next = firstNotBefore(place);
-    if (next != myPrices.end() && !(place < next->place()))
-        myPrices.at(static_cast<std::size_t>(next - myPrices.begin())) = price;
-    else
-        myPrices.insert(next, price);
-    // Besides its own upper limit an entry tells that of the level below; no other one can have changed.
-    const VelTarmPricePlace below{place.mySource, place.myModel, VelArithmetic::difference(place.myLevel, 1)};
-    if (VelTarmPriceValue* value = find(below))
-        value->setUpperLimit(VelArithmetic::difference(price.myValue.lowerLimit(), 1));
 }
 
 // ---- computing

@@ -146,7 +146,9 @@ private:
     Bands bands(const VelOrderSource& theSource, VelDiscountModel theModel, int theLowestLevel,
                 int theHighestLevel) const;
     int itemsAtUpperBound(const VelTarmPricePlace& thePlace) const;
-    void store(const VelOrderSource& theSource, const VelTarmPriceValue& theValue);
+    void readGroup(const QDomElement& theGroup);
+    void readEntry(const QDomElement& theEntry);
+    void settle();
 
     VelDiscountModel searchBestModel(VelTarmPriceKey& theWorkingKey, int theCount, int theBillingSum,
                                      int theInheritedLevel) const;

@@ -31,12 +31,13 @@ bool VelTarmPriceKey::operator==(const VelTarmPriceKey& theOther) const
             discountModel() == theOther.discountModel());
 }
 
-bool VelTarmPriceKey::supercedes(const VelTarmPriceKey& theOther) const
+bool VelTarmPriceKey::supercedes(const VelOrderSource& theOrderSource, int theDiscountLevel,
+                                 VelDiscountModel theModel) const
 {
-    return (inputSource() == INPUT_SOURCE_UNKNOWN || inputSource() == theOther.inputSource()) &&
-           (deliveryType() == DELIVERY_TYPE_UNKNOWN || deliveryType() == theOther.deliveryType()) &&
-           (discountLevel() == -1 || discountLevel() == theOther.discountLevel()) &&
-           (discountModel() == DISCOUNT_MODEL_UNDEFINED || discountModel() == theOther.discountModel());
+    return (inputSource() == INPUT_SOURCE_UNKNOWN || inputSource() == theOrderSource.inputSource()) &&
+           (deliveryType() == DELIVERY_TYPE_UNKNOWN || deliveryType() == theOrderSource.deliveryType()) &&
+           (discountLevel() == -1 || discountLevel() == theDiscountLevel) &&
+           (discountModel() == DISCOUNT_MODEL_UNDEFINED || discountModel() == theModel);
 }
 
 QDebug operator<<(QDebug theDebug, const VelTarmPriceKey& theKey)

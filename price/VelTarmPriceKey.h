@@ -62,7 +62,13 @@ public:
     /// Whether this key, read as a pattern, covers the other one. Wild are INPUT_SOURCE_UNKNOWN,
     /// DELIVERY_TYPE_UNKNOWN, the level -1 and DISCOUNT_MODEL_UNDEFINED. The values -1 of INPUT_SOURCE_ANY and
     /// DELIVERY_TYPE_ANY are not wild here: they are spread out when a document is read.
-    bool supercedes(const VelTarmPriceKey& theOther) const;
+    bool supercedes(const VelTarmPriceKey& theOther) const
+    {
+        return supercedes(theOther.orderSource(), theOther.discountLevel(), theOther.discountModel());
+    }
+
+    /// The same for a key that is given by its parts.
+    bool supercedes(const VelOrderSource& theOrderSource, int theDiscountLevel, VelDiscountModel theModel) const;
 
 private:
     QSharedDataPointer<VelTarmPriceKeyImpl> myImpl;
