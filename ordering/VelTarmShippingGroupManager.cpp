@@ -2,12 +2,21 @@
 
 #include "ordering/VelTarmShippingGroup.h"
 
+#include <algorithm>
+
 VelTarmShippingGroupManager* VelTarmShippingGroupManager::instance()
 {
     static VelTarmShippingGroupManager* manager = nullptr;
     if (!manager)
         manager = new VelTarmShippingGroupManager;
     return manager;
+}
+
+QList<const VelTarmShippingGroup*> VelTarmShippingGroupManager::shippingGroups() const
+{
+    QList<const VelTarmShippingGroup*> groups = myShippingGroups.values();
+    std::sort(groups.begin(), groups.end(), lessThanPriceListTabPosition);
+    return groups;
 }
 
 VelTransferModel VelTarmShippingGroupManager::transferModel(int theId) const

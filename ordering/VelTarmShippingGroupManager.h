@@ -4,6 +4,7 @@
 #include "frame/VelEnumerations.h"
 #include "frame/VelTarmExport.h"
 
+#include <QList>
 #include <QMap>
 #include <QString>
 
@@ -19,6 +20,9 @@ public:
 
     /// The group of that id; null when the key account doesn't sell it. Owned by nobody, alive for ever.
     const VelTarmShippingGroup* shippingGroup(int theId) const { return myShippingGroups.value(theId, nullptr); }
+
+    /// All groups in the order of the document. Owned by nobody, alive for ever.
+    QList<const VelTarmShippingGroup*> shippingGroups() const;
 
     /// TRANSFER_MODEL_UNDEFINED for an unknown id.
     VelTransferModel transferModel(int theId) const;
