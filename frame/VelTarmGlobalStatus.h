@@ -6,7 +6,7 @@
 
 #include <QObject>
 
-/// The one application-wide status.
+/// The one application-wide status. It is for the host: nothing in the library listens to it.
 class VELTARM_EXPORT VelTarmGlobalStatus : public QObject
 {
     Q_OBJECT
@@ -24,8 +24,23 @@ public:
     VelPaymentType payment() const { return myStatus.payment(); }
     VelTarmPriceKey priceKey() const { return myStatus.priceKey(); }
 
+    /// These emit nothing.
+    void setPayment(VelPaymentType thePayment) { myStatus.setPayment(thePayment); }
+    void setReasonableStartingPayment() { myStatus.setReasonableStartingPayment(); }
+
+    /// Chooses the start value: the given source if the key account enables it, else the first one available. Each of
+    /// the two failures writes a warning; without any source the status stays as it is.
+    void initOrderSource(const VelOrderSource& theOrderSource);
+
+public slots:
+    /// An equal source changes nothing and tells nobody.
+    void setOrderSource(const VelOrderSource& theNewOrderSource);
+
+signals:
+    void orderSourceChanged();
+
 private:
-    VelTarmGlobalStatus() = default;
+    VelTarmGlobalStatus();
 
     VelTarmStatus myStatus;
 };

@@ -5,7 +5,7 @@
 #include "frame/VelTarmExport.h"
 #include "price/VelTarmPriceKey.h"
 
-/// Order source and payment: the state that prices depend on. A value.
+/// Order source and payment: the state that prices depend on. A value; a bill holds a copy of its own.
 class VELTARM_EXPORT VelTarmStatus
 {
 public:
@@ -18,10 +18,36 @@ public:
     VelPaymentType payment() const { return myPayment; }
 
     void setPayment(VelPaymentType thePayment) { myPayment = thePayment; }
-    void setOrderSource(const VelOrderSource& theOrderSource) { myOrderSource = theOrderSource; }
+
+    /// A change of the delivery type chooses a reasonable payment; a change of the input source alone keeps it, since
+    /// the choice depends on the delivery type.
+    void setOrderSource(const VelOrderSource& theOrderSource);
+
+    /// Keeps the payment when the ordering details permit it for the order source, else takes the first permitted one;
+    /// PAYMENT_TYPE_UNKNOWN when there is none.
+    void setReasonableStartingPayment();
 
     /// A key of the order source alone: level -1, DISCOUNT_MODEL_UNDEFINED.
     VelTarmPriceKey priceKey() const { return VelTarmPriceKey(myOrderSource, -1, DISCOUNT_MODEL_UNDEFINED); }
+
+    /// Takes the key's order source; its level and model are ignored.
+    void setPriceKey(const VelTarmPriceKey& theKey) { setOrderSource(theKey.orderSource()); }
+
+    bool hasOrderSource(const VelOrderSource& theOrderSource) const { return myOrderSource == theOrderSource; }
+    bool isOnlinePointOfSale() const { return myOrderSource.isOnlinePointOfSale(); }
+    bool isOnlineMailOrder() const { return myOrderSource.isOnlineMailOrder(); }
+    bool isCDPointOfSale() const { return myOrderSource.isCDPointOfSale(); }
+    bool isKioskOnSite() const { return myOrderSource.isKioskOnSite(); }
+    bool isCdMailOrder() const { return myOrderSource.isCDMailOrder(); }
+
+    /// By the input source, whatever the delivery type; and the reverse.
+    bool isNetOrder() const { return inputSource() == INPUT_SOURCE_NET; }
+    bool isMailOrder() const { return deliveryType() == DELIVERY_TYPE_MAILORDER; }
+
+    static bool paymentTypePermitsDifferentShippingAddress(VelPaymentType thePayment);
+
+    /// For mail order with a payment that permits it.
+    bool differentShippingAddressPossible() const;
 
 private:
     VelOrderSource myOrderSource = VelOrderSource::onlineMailOrder();
