@@ -5,6 +5,8 @@
 #include "price/VelTarmPriceInfo.h"
 #include "sibling/VelXMLParser.h"
 
+unsigned VelTarmArticle::myIdChanges = 0;
+
 namespace {
 
 const QString STR_NAME = QStringLiteral("name");
@@ -161,7 +163,10 @@ void VelTarmArticle::updateNameInformation(const QDomElement& theElement)
 {
     myName = VelXMLParser::attribute(theElement, STR_NAME, myName);
     myEditorName = VelXMLParser::attribute(theElement, STR_EDITOR_NAME, QStringLiteral(""));
-    myArticleID = VelXMLParser::intAttribute(theElement, STR_ID, 0);
+    const int articleID = VelXMLParser::intAttribute(theElement, STR_ID, 0);
+    if (articleID != myArticleID)
+        ++myIdChanges;
+    myArticleID = articleID;
 }
 
 void VelTarmArticle::updateShippingTimeInformation(const QDomElement& theElement)

@@ -44,6 +44,10 @@ public:
     /// Attribute `id`, 0 when missing.
     int articleID() const { return myArticleID; }
 
+    /// How often the id of any article has changed in this process: an index by id compares it to know whether it is
+    /// still good.
+    static unsigned idChanges() { return myIdChanges; }
+
     /// Attribute `name`: the internal name; null until an element has one.
     QString name() const { return myName; }
 
@@ -107,6 +111,8 @@ private:
     static constexpr int DEFAULT_DPI = 300;
     static constexpr int DEFAULT_DPI_FOR_GREEN = 150;
     static constexpr int DEFAULT_DPI_FOR_YELLOW = 90;
+
+    static unsigned myIdChanges;
 
     VelTarmPriceInfo* myPriceInfo;
     VelTarmOrderTxtContent* myOrderTxtContent;

@@ -13,8 +13,13 @@
 #include <QList>
 #include <QMap>
 #include <QObject>
+#include <QSet>
+#include <QStringList>
 
+class VelDiscountLimit;
 class VelExpressType;
+class VelProductAddOn;
+class VelProductPrintFun;
 class VelProductRegistryExpressFees;
 class VelProductRegistryFotoBookCache;
 class VelProductRegistryPaymentAgio;
@@ -43,15 +48,98 @@ public:
     /// Every main product and add-on ever read, in order of first appearance.
     QList<VelProductAbstract*> productList() const { return myProductList; }
 
-    /// The first product with that article ID, null when there is none.
+    // ---- one product; null when there is none. Deprecated products are found like all others, and "first" means
+    // first in productList().
+
+    /// The first product with that article ID.
     VelProductAbstract* productWithArticleID(int theArticleID) const;
+
+    /// The first product of the group with that name; a deprecated product's name carries its suffix.
+    VelProductAbstract* findProduct(const QString& theName, const VelProductGroup& theGroup) const;
+
+    /// By findFotoBook, findCalendar or findPrintFun, as the type's class says.
+    VelProductAbstract* findProduct(const VelProductType& theType) const;
+
+    /// The only book of the type; null also when there are two or more, which is meant.
+    VelProductPrintFun* findFotoBook(const VelProductType& theType) const;
+    VelProductAbstract* findCalendar(const VelProductType& theType) const;
+
+    /// The first print-fun product of the type whose order-text type is the type's name.
+    VelProductAbstract* findPrintFun(const VelProductType& theType) const;
+
+    /// The first product of that order-text type. Once found it is answered for ever, deprecated or not.
+    VelProductAbstract* findProductWithOrderTXTType(const QString& theType) const;
+
+    /// The first product of the group with that order-text head, and that BORDER= value; null for an empty head.
+    VelProductAbstract* findProductWithOrderTXTHead(const QString& theHead, const VelProductGroup& theGroup) const;
+    VelProductAbstract* findProductWithOrderTXTHead(const QString& theHead, const VelProductGroup& theGroup,
+                                                    const QString& theBorder) const;
+
+    /// Reads the text as an order-text type, then as a product type, then as an order-text head.
+    VelProductAbstract* product(const QString& theText) const;
+
+    /// The group's nearest equal of a product: same head and border, same head, or else the nearest size in pixels, for
+    /// which add-ons and deprecated products count as well.
+    VelProductAbstract* mostEquivalentProduct(VelProductAbstract* theProduct, const VelProductGroup& theGroup) const;
+
+    // ---- the add-ons of a main product, which is given by its article ID
+
+    /// The first add-on that fits the article and has that product class; findContent is the same query.
+    VelProductAddOn* supplement(int theArticleID, const QString& theProductClass) const;
+    VelProductAddOn* findContent(int theArticleID, const QString& theProductClass) const;
+    VelProductAddOn* findContent(const VelProductType& theType, const QString& theProductClass) const;
+    bool productHasSupplement(int theArticleID, const QString& theProductClass) const;
+    QList<VelProductAddOn*> possibleAddOns(int theArticleID) const;
+
+    /// Of the possible add-ons those that the customer may pick himself.
+    QList<VelProductAddOn*> possibleSupplements(int theArticleID) const;
+    QList<VelProductAddOn*> findPossibleFrames(int theArticleID) const;
+    VelProductAddOn* findPagePackage(int theArticleID) const;
+
+    /// The video add-on of the type's book, and its price as text in the primary currency (null without one).
+    VelProductAddOn* qrCodeSupplement(const VelProductType& theType) const;
+    bool qrCodeAllowed(const VelProductType& theType) const;
+    QString qrCodePriceText(const VelProductType& theType) const;
+
+    // ---- lists and sets
 
     /// The print-fun products whose first reading gave that type. Never null; the list stays the registry's, and is the
     /// same object at each call.
     VelProductList* productsOfType(const VelProductType& theType) const;
 
-    /// The products of a group, sorted by sortProductByNumber; with theIncludeAddOns every add-on, whatever its group.
+    QList<VelProductPrintFun*> fotoBooks() const;
+    QList<VelProductPrintFun*> fotoBooks(const VelProductType& theType) const;
+    VelProductList findProductListWithOrderTxtType(const QString& theType) const;
+
+    /// The main products of a shipping group; with theIncludeAddOns every add-on, whatever its group. Sorted by
+    /// sortProductByNumber.
+    VelProductList productsForShippingGroup(int theId, bool theIncludeAddOns) const;
+
+    /// The products of a group; with theIncludeAddOns every add-on, whatever its group. Sorted by sortProductByNumber.
     VelProductList productsForProductGroup(const VelProductGroup& theGroup, bool theIncludeAddOns) const;
+
+    /// The names of the products of a group, sorted by sortByNumber.
+    QStringList productListAsStringList(const VelProductGroup& theGroup) const;
+
+    /// The bands that the pattern covers in a shipping group with all add-ons. A base limit (from 0, open above) stays
+    /// only while it is the last limit of its model.
+    QSet<VelDiscountLimit> discountLimits(int theShippingGroupId, const VelTarmPriceKey& theKey) const;
+
+    // ---- tests
+
+    /// Whether the text is an order-text type or a product type of the list; unlike product(), heads don't count.
+    bool productExists(const QString& theText) const;
+
+    /// Whether some product has exactly that group value; a mask matches nothing here.
+    bool containsProductGroup(const VelProductGroup& theGroup) const;
+    bool shippingTimesEnabled() const;
+    bool shippingGroupHasNonPrintFunProducts(int theId) const;
+
+    /// Whether a product of the shipping group, or an add-on, has a band of the model under the key.
+    bool containsDiscountModel(int theShippingGroupId, const VelTarmPriceKey& theKey, VelDiscountModel theModel) const;
+    bool groupsMatch(const VelProductGroup& theLeft, const VelProductGroup& theRight) const;
+
+    // ---- fees
 
     /// The fee products. Null, -1 for a transfer product's id and 0 for a payment fee's stand for none.
     VelProductAbstract* transferProduct(int theShippingGroupId) const;
@@ -97,8 +185,19 @@ signals:
 private:
     QHash<int, VelProductAbstract*> firstProductsByArticleID() const;
 
+    template <typename Predicate>
+    VelProductAbstract* firstProduct(Predicate thePredicate) const;
+    template <typename Predicate>
+    VelProductAddOn* firstAddOn(Predicate thePredicate) const;
+    template <typename Predicate>
+    QList<VelProductAddOn*> addOns(Predicate thePredicate) const;
+
     QList<VelProductAbstract*> myProductList;
-    mutable QMap<VelProductTypeEnum, VelProductList*> myProductsByType; ///< owns the lists, not the products
+    mutable QMap<VelProductTypeEnum, VelProductList*> myProductsByType;   ///< owns the lists, not the products
+    mutable QHash<QString, VelProductAbstract*> myProductsByOrderTxtType; ///< what was once found; never cleared
+    mutable QHash<int, VelProductAbstract*> myProductsByArticleID;        ///< an index, see productWithArticleID
+    mutable unsigned myIndexedIdChanges = 0;                              ///< the changes of ids that the index knows
+    mutable int myIndexedProducts = 0;                                    ///< the length of the list that it knows
     VelProductRegistryTransferProducts* myTransferProducts;
     VelProductRegistryExpressFees* myExpressFees;
     VelProductRegistryPaymentAgio* myPaymentAgio;

@@ -2,6 +2,10 @@
 
 #include "product/VelProductAbstract.h"
 
+#include <QtAlgorithms>
+
+#include <vector>
+
 namespace {
 
 /// The run of digits at the start of a name, empty when there is none.
@@ -13,23 +17,58 @@ QStringRef leadingDigits(const QString& theName)
     return theName.leftRef(length);
 }
 
+/// A name with what its order depends on.
+struct NumberedName
+{
+    explicit NumberedName(const QString& theName) : myName(theName)
+    {
+        const QStringRef digits = leadingDigits(theName);
+        myHasNumber = !digits.isEmpty();
+        myNumber = digits.toInt();
+    }
+
+    bool isBefore(const NumberedName& theOther) const
+    {
+        if (myHasNumber && theOther.myHasNumber)
+            return myNumber != theOther.myNumber ? myNumber < theOther.myNumber
+                                                 : myName.length() < theOther.myName.length();
+        if (myName.length() != theOther.myName.length())
+            return myName.length() < theOther.myName.length();
+        return QString::compare(myName, theOther.myName, Qt::CaseInsensitive) < 0;
+    }
+
+    QString myName;
+    bool myHasNumber;
+    int myNumber;
+};
+
+struct NumberedProduct
+{
+    NumberedName myName;
+    VelProductAbstract* myProduct;
+};
+
 } // namespace
 
 bool sortByNumber(const QString& theLeft, const QString& theRight)
 {
-    const QStringRef leftDigits = leadingDigits(theLeft);
-    const QStringRef rightDigits = leadingDigits(theRight);
-    if (!leftDigits.isEmpty() && !rightDigits.isEmpty()) {
-        const int left = leftDigits.toInt();
-        const int right = rightDigits.toInt();
-        return left != right ? left < right : theLeft.length() < theRight.length();
-    }
-    if (theLeft.length() != theRight.length())
-        return theLeft.length() < theRight.length();
-    return QString::compare(theLeft, theRight, Qt::CaseInsensitive) < 0;
+    return NumberedName(theLeft).isBefore(NumberedName(theRight));
 }
 
 bool sortProductByNumber(VelProductAbstract* theLeft, VelProductAbstract* theRight)
 {
     return sortByNumber(theLeft->name(), theRight->name());
+}
+
+void sortProductsByNumber(VelProductList& theProducts)
+{
+    std::vector<NumberedProduct> products;
+    products.reserve(static_cast<std::size_t>(theProducts.size()));
+    for (VelProductAbstract* product : qAsConst(theProducts))
+        products.push_back({NumberedName(product->name()), product});
+    qSort(products.begin(), products.end(), [](const NumberedProduct& theLeft, const NumberedProduct& theRight) {
+        return theLeft.myName.isBefore(theRight.myName);
+    });
+    for (int index = 0; index < theProducts.size(); ++index)
+        theProducts[index] = products[static_cast<std::size_t>(index)].myProduct;
 }

@@ -2,10 +2,9 @@
 #define VELPRODUCTSORTING_H
 
 #include "frame/VelTarmExport.h"
+#include "product/VelProductList.h"
 
 #include <QString>
-
-class VelProductAbstract;
 
 /**
  * Whether a name sorts before another: names that begin with a number by that number, then by length; if one of the
@@ -18,5 +17,8 @@ VELTARM_EXPORT bool sortByNumber(const QString& theLeft, const QString& theRight
 
 /// sortByNumber of the products' names.
 VELTARM_EXPORT bool sortProductByNumber(VelProductAbstract* theLeft, VelProductAbstract* theRight);
+
+/// What qSort with sortProductByNumber makes of the list, with each name read once.
+void sortProductsByNumber(VelProductList& theProducts);
 
 #endif
