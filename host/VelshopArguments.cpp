@@ -3,41 +3,47 @@
 #include "host/VelshopWords.h"
 
 #include <QCommandLineParser>
+#include <QVector>
 
 namespace {
 
-const QString STR_LIST = QStringLiteral("list");
-const QString STR_PRICE = QStringLiteral("price");
 const QString STR_ACCOUNT = QStringLiteral("account");
 const QString STR_JSON = QStringLiteral("json");
+const QString STR_LANGUAGE = QStringLiteral("language");
 const QString STR_GROUP = QStringLiteral("group");
 const QString STR_SOURCE = QStringLiteral("source");
 const QString STR_DELIVERY = QStringLiteral("delivery");
 
-const QString STR_DESCRIPTION =
-    QStringLiteral("The order desk of a shop for photo products.\n\n"
-                   "  velshop list [--group ID]\n"
-                   "      articles with id, name, shipping group, type, and whether they can be ordered\n"
-                   "  velshop price ARTICLE COUNT [--source NET|CD|KIOSK] [--delivery POS|MAIL|ONSITE]\n"
-                   "      what so many pieces cost, with the discount model, level and band of each line\n\n"
-                   "Exit codes: 0 done, 1 there is no price, 2 a wrong argument or an unreadable document.");
+const QString STR_DESCRIPTION = QStringLiteral(
+    "The order desk of a shop for photo products.\n\n"
+    "  velshop list [--group ID]\n"
+    "      articles with id, name, shipping group, type, price of a piece, and whether they can be ordered\n"
+    "  velshop price ARTICLE COUNT [--source NET|CD|KIOSK] [--delivery POS|MAIL|ONSITE]\n"
+    "      what so many pieces cost, with the discount model, level and band of each line\n"
+    "  velshop shop\n"
+    "      the conditions: order ways, payments, currencies, shipping groups and the like\n"
+    "  velshop types\n"
+    "      product types with their products, scales and page ranges\n\n"
+    "Exit codes: 0 done, 1 there is no price, 2 a wrong argument or an unreadable document.");
 
 void declareOptions(QCommandLineParser& theParser)
 {
     theParser.setApplicationDescription(STR_DESCRIPTION);
     theParser.addHelpOption();
     theParser.addVersionOption();
-    theParser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("list or price"));
+    theParser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("list, price, shop or types"));
     theParser.addOptions({
         {STR_ACCOUNT, QStringLiteral("Folder of the key account with pricelist.xml and orderingdetails.xml."),
          QStringLiteral("DIR"), QStringLiteral(VELSHOP_SAMPLE_ACCOUNT)},
         {STR_JSON, QStringLiteral("Print JSON.")},
+        {STR_LANGUAGE, QStringLiteral("Language of the customer texts: de (default) or en."), QStringLiteral("CODE"),
+         QStringLiteral("de")},
         {STR_GROUP, QStringLiteral("list: this shipping group only."), QStringLiteral("ID")},
-        {STR_SOURCE, QStringLiteral("price: how the order comes in, NET (default), CD or KIOSK."),
+        {STR_SOURCE,
+         QStringLiteral("price: how the order comes in, NET, CD or KIOSK; the shop's starting choice by default."),
          QStringLiteral("SOURCE")},
         {STR_DELIVERY,
-         QStringLiteral(
-             "price: how the goods go out, POS, MAIL (default) or ONSITE (default and only way of a kiosk)."),
+         QStringLiteral("price: how the goods go out, POS, MAIL or ONSITE; a kiosk goes with ONSITE alone."),
          QStringLiteral("DELIVERY")},
     });
 }
@@ -55,58 +61,97 @@ bool readNumber(const QString& theText, const QString& theName, int theLowest, i
     return false;
 }
 
-bool readOrderSource(const QCommandLineParser& theParser, VelOrderSource& theSource, QString& theError)
+bool readOrderSource(const QCommandLineParser& theParser, VelshopArguments& theArguments, QString& theError)
 {
-    VelInputSource inputSource = INPUT_SOURCE_NET;
-    if (theParser.isSet(STR_SOURCE) && !VelshopWords::readInputSource(theParser.value(STR_SOURCE), inputSource)) {
-        theError = QStringLiteral("--source must be NET, CD or KIOSK, not \"%1\"").arg(theParser.value(STR_SOURCE));
+    const QString source = theParser.value(STR_SOURCE);
+    if (theParser.isSet(STR_SOURCE) && !VelshopWords::readInputSource(source, theArguments.myInputSource)) {
+        theError = QStringLiteral("--source must be NET, CD or KIOSK, not \"%1\"").arg(source);
         return false;
     }
-    VelDeliveryType deliveryType = inputSource == INPUT_SOURCE_KIOSK ? DELIVERY_TYPE_ON_SITE : DELIVERY_TYPE_MAILORDER;
-    if (theParser.isSet(STR_DELIVERY) && !VelshopWords::readDeliveryType(theParser.value(STR_DELIVERY), deliveryType)) {
-        theError =
-            QStringLiteral("--delivery must be POS, MAIL or ONSITE, not \"%1\"").arg(theParser.value(STR_DELIVERY));
+    const QString delivery = theParser.value(STR_DELIVERY);
+    if (theParser.isSet(STR_DELIVERY) && !VelshopWords::readDeliveryType(delivery, theArguments.myDeliveryType)) {
+        theError = QStringLiteral("--delivery must be POS, MAIL or ONSITE, not \"%1\"").arg(delivery);
         return false;
     }
-    theSource = VelOrderSource(inputSource, deliveryType);
-    if (!theSource.isValid())
-        theError = QStringLiteral("KIOSK and ONSITE go together and with nothing else");
-    return theSource.isValid();
+    return true;
 }
 
 bool readPriceArguments(const QCommandLineParser& theParser, VelshopArguments& theArguments, QString& theError)
 {
     const QStringList words = theParser.positionalArguments();
-    if (words.size() != 3) {
-        theError = QStringLiteral("price takes an article and a count, see velshop --help");
-        return false;
-    }
     return readNumber(words.at(1), QStringLiteral("ARTICLE"), 0, theArguments.myArticle, theError) &&
            readNumber(words.at(2), QStringLiteral("COUNT"), 1, theArguments.myCount, theError) &&
-           readOrderSource(theParser, theArguments.mySource, theError);
+           readOrderSource(theParser, theArguments, theError);
 }
 
 bool readListArguments(const QCommandLineParser& theParser, VelshopArguments& theArguments, QString& theError)
 {
-    if (theParser.positionalArguments().size() != 1) {
-        theError = QStringLiteral("list takes no arguments but options, see velshop --help");
-        return false;
-    }
     theArguments.myHasGroup = theParser.isSet(STR_GROUP);
     return !theArguments.myHasGroup ||
            readNumber(theParser.value(STR_GROUP), QStringLiteral("--group"), 0, theArguments.myGroup, theError);
 }
 
-/// An option that the command would ignore is an error, not a wish.
-bool hasForeignOption(const QCommandLineParser& theParser, const QStringList& theForeignOptions, QString& theError)
+/// How a command reads its own arguments, how many words it takes behind its name, and which options belong to it.
+struct Command
 {
-    for (const QString& option : theForeignOptions) {
-        if (!theParser.isSet(option))
-            continue;
-        theError = QStringLiteral("--%1 does not belong to this command").arg(option);
-        return true;
+    const char* myName;
+    int myWords;
+    QStringList myOptions;
+    bool (*myRead)(const QCommandLineParser&, VelshopArguments&, QString&);
+};
+
+bool readNothing(const QCommandLineParser&, VelshopArguments&, QString&)
+{
+    return true;
+}
+
+const QVector<Command>& commands()
+{
+    static const QVector<Command> all{{"list", 0, {STR_GROUP}, readListArguments},
+                                      {"price", 2, {STR_SOURCE, STR_DELIVERY}, readPriceArguments},
+                                      {"shop", 0, {}, readNothing},
+                                      {"types", 0, {}, readNothing}};
+    return all;
+}
+
+/// An option that the command would ignore is an error, not a wish.
+bool takes(const Command& theCommand, const QCommandLineParser& theParser, QString& theError)
+{
+    for (const QString& option : {STR_GROUP, STR_SOURCE, STR_DELIVERY}) {
+        if (theParser.isSet(option) && !theCommand.myOptions.contains(option)) {
+            theError = QStringLiteral("--%1 does not belong to %2").arg(option, QLatin1String(theCommand.myName));
+            return false;
+        }
     }
+    const int words = theParser.positionalArguments().size() - 1;
+    if (words != theCommand.myWords)
+        theError = QStringLiteral("%1 takes %2 arguments behind its name, not %3; see velshop --help")
+                       .arg(QLatin1String(theCommand.myName))
+                       .arg(theCommand.myWords)
+                       .arg(words);
+    return words == theCommand.myWords;
+}
+
+bool readCommand(const QCommandLineParser& theParser, VelshopArguments& theArguments, QString& theError)
+{
+    theArguments.myCommand = theParser.positionalArguments().value(0);
+    for (const Command& command : commands())
+        if (theArguments.myCommand == QLatin1String(command.myName))
+            return takes(command, theParser, theError) && command.myRead(theParser, theArguments, theError);
+    theError = theArguments.myCommand.isEmpty()
+                   ? QStringLiteral("no command given, see velshop --help")
+                   : QStringLiteral("unknown command \"%1\", see velshop --help").arg(theArguments.myCommand);
     return false;
+}
+
+bool readLanguage(const QCommandLineParser& theParser, VelshopArguments& theArguments, QString& theError)
+{
+    theArguments.myLanguage = theParser.value(STR_LANGUAGE);
+    const bool isKnown =
+        theArguments.myLanguage == QLatin1String("de") || theArguments.myLanguage == QLatin1String("en");
+    if (!isKnown)
+        theError = QStringLiteral("--language must be de or en, not \"%1\"").arg(theArguments.myLanguage);
+    return isKnown;
 }
 
 } // namespace
@@ -123,17 +168,7 @@ bool readArguments(const QStringList& theCommandLine, VelshopArguments& theArgum
         parser.showHelp();
     if (parser.isSet(QStringLiteral("version")))
         parser.showVersion();
-
-    theArguments.myCommand = parser.positionalArguments().value(0);
     theArguments.myAccount = parser.value(STR_ACCOUNT);
     theArguments.myIsJson = parser.isSet(STR_JSON);
-    if (theArguments.myCommand == STR_LIST)
-        return !hasForeignOption(parser, {STR_SOURCE, STR_DELIVERY}, theError) &&
-               readListArguments(parser, theArguments, theError);
-    if (theArguments.myCommand == STR_PRICE)
-        return !hasForeignOption(parser, {STR_GROUP}, theError) && readPriceArguments(parser, theArguments, theError);
-    theError = theArguments.myCommand.isEmpty()
-                   ? QStringLiteral("no command given, see velshop --help")
-                   : QStringLiteral("unknown command \"%1\", see velshop --help").arg(theArguments.myCommand);
-    return false;
+    return readLanguage(parser, theArguments, theError) && readCommand(parser, theArguments, theError);
 }

@@ -1,7 +1,7 @@
 #ifndef VELSHOPARGUMENTS_H
 #define VELSHOPARGUMENTS_H
 
-#include "frame/VelOrderSource.h"
+#include "frame/VelEnumerations.h"
 
 #include <QString>
 #include <QStringList>
@@ -9,8 +9,9 @@
 /// What the command line asks for.
 struct VelshopArguments
 {
-    QString myCommand; ///< "list" or "price"
-    QString myAccount; ///< folder of the key account
+    QString myCommand;  ///< one of those that the help lists
+    QString myAccount;  ///< folder of the key account
+    QString myLanguage; ///< of the customer texts, "de" or "en"
     bool myIsJson = false;
 
     bool myHasGroup = false;
@@ -18,7 +19,10 @@ struct VelshopArguments
 
     int myArticle = 0;
     int myCount = 0;
-    VelOrderSource mySource = VelOrderSource::onlineMailOrder();
+
+    /// The two halves of the order source to price by; INPUT_SOURCE_ANY and DELIVERY_TYPE_ANY leave the choice open.
+    VelInputSource myInputSource = INPUT_SOURCE_ANY;
+    VelDeliveryType myDeliveryType = DELIVERY_TYPE_ANY;
 };
 
 /// Reads the command line. False, with the error in one line, when it can't be understood. `--help` and `--version`

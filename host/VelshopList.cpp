@@ -2,6 +2,8 @@
 
 #include "host/VelshopArguments.h"
 #include "host/VelshopExitCode.h"
+#include "host/VelshopTable.h"
+#include "host/VelshopWords.h"
 #include "ordering/VelTarmShippingGroupManager.h"
 #include "product/VelProductAddOn.h"
 #include "product/VelProductRegistry.h"
@@ -27,6 +29,13 @@ QString typeOf(const VelProductAbstract* theProduct)
     return addOn ? QStringLiteral("add-on %1").arg(addOn->productClass()) : theProduct->orderTxtType();
 }
 
+/// Of one piece under the shop's starting choice.
+QString priceText(const VelProductAbstract* theProduct)
+{
+    const int price = theProduct->price();
+    return price == -1 ? QStringLiteral("-") : VelshopWords::money(price);
+}
+
 VelProductList articlesToList(const VelshopArguments& theArguments)
 {
     VelProductList articles;
@@ -48,31 +57,18 @@ QJsonObject toJson(const VelProductAbstract* theProduct)
             {QStringLiteral("group"), theProduct->shippingGroupId()},
             {QStringLiteral("groupName"), groupName(theProduct)},
             {QStringLiteral("type"), typeOf(theProduct)},
+            {QStringLiteral("price"), theProduct->price() == -1 ? QJsonValue() : QJsonValue(theProduct->price())},
             {QStringLiteral("orderable"), theProduct->isOrderable()}};
 }
 
 QStringList toRow(const VelProductAbstract* theProduct)
 {
-    return {QString::number(theProduct->articleID()), theProduct->name(),
+    return {QString::number(theProduct->articleID()),
+            theProduct->name(),
             QStringLiteral("%1 %2").arg(theProduct->shippingGroupId()).arg(groupName(theProduct)).trimmed(),
-            typeOf(theProduct), theProduct->isOrderable() ? QStringLiteral("yes") : QStringLiteral("no")};
-}
-
-void printTable(const QList<QStringList>& theRows, QTextStream& theOutput)
-{
-    QList<int> widths;
-    for (int column = 0; column < theRows.first().size(); ++column) {
-        int width = 0;
-        for (const QStringList& row : theRows)
-            width = qMax(width, row.at(column).length());
-        widths.append(width);
-    }
-    for (const QStringList& row : theRows) {
-        QString line;
-        for (int column = 0; column < row.size(); ++column)
-            line += row.at(column).leftJustified(widths.at(column) + 2);
-        theOutput << line.trimmed() << '\n';
-    }
+            typeOf(theProduct),
+            priceText(theProduct),
+            theProduct->isOrderable() ? QStringLiteral("yes") : QStringLiteral("no")};
 }
 
 void printJson(const VelProductList& theArticles, QTextStream& theOutput)
@@ -85,11 +81,11 @@ void printJson(const VelProductList& theArticles, QTextStream& theOutput)
 
 void printText(const VelProductList& theArticles, QTextStream& theOutput)
 {
-    QList<QStringList> rows{{QStringLiteral("ID"), QStringLiteral("NAME"), QStringLiteral("GROUP"),
-                             QStringLiteral("TYPE"), QStringLiteral("ORDERABLE")}};
+    VelshopTable table({QStringLiteral("ID"), QStringLiteral("NAME"), QStringLiteral("GROUP"), QStringLiteral("TYPE"),
+                        QStringLiteral("PRICE"), QStringLiteral("ORDERABLE")});
     for (const VelProductAbstract* article : theArticles)
-        rows.append(toRow(article));
-    printTable(rows, theOutput);
+        table.add(toRow(article));
+    table.print(theOutput);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "bill/VelTarmBill.h"
 #include "bill/VelTarmBillPosition.h"
+#include "frame/VelTarmGlobalStatus.h"
 #include "host/VelshopArguments.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopWords.h"
@@ -26,11 +27,20 @@ struct PricedLine
     VelDiscountLimit myBand;
 };
 
-VelTarmStatus statusOf(const VelOrderSource& theSource)
+/// The halves that the command line names, completed by the shop's starting choice; a kiosk and delivery on site bring
+/// each other along.
+VelOrderSource orderSource(const VelshopArguments& theArguments)
 {
-    VelTarmStatus status;
-    status.setOrderSource(theSource);
-    return status;
+    const VelOrderSource start = VelTarmGlobalStatus::instance()->orderSource();
+    VelInputSource inputSource = theArguments.myInputSource;
+    VelDeliveryType deliveryType = theArguments.myDeliveryType;
+    if (inputSource == INPUT_SOURCE_ANY && deliveryType == DELIVERY_TYPE_ANY)
+        return start;
+    if (inputSource == INPUT_SOURCE_ANY)
+        inputSource = deliveryType == DELIVERY_TYPE_ON_SITE ? INPUT_SOURCE_KIOSK : INPUT_SOURCE_NET;
+    if (deliveryType == DELIVERY_TYPE_ANY)
+        deliveryType = inputSource == INPUT_SOURCE_KIOSK ? DELIVERY_TYPE_ON_SITE : DELIVERY_TYPE_MAILORDER;
+    return VelOrderSource(inputSource, deliveryType);
 }
 
 PricedLine pricedLine(const VelTarmBillPositionAbstract* thePosition, const VelOrderSource& theSource)
@@ -74,7 +84,7 @@ QString lineText(const PricedLine& theLine)
     const VelTarmBillPositionAbstract& position = *theLine.myPosition;
     QString text = QStringLiteral("  %1 x %2 = %3")
                        .arg(position.unitCount())
-                       .arg(VelshopWords::amount(position.unitPrice()), VelshopWords::amount(position.positionPrice()));
+                       .arg(VelshopWords::money(position.unitPrice()), VelshopWords::money(position.positionPrice()));
     if (position.isPackage())
         text += QStringLiteral(" for a package with %1 pieces").arg(position.countItems());
     text += QStringLiteral("; model %1, level %2%3")
@@ -82,7 +92,7 @@ QString lineText(const PricedLine& theLine)
                 .arg(position.discountLevel())
                 .arg(bandText(theLine));
     if (position.nonOfferPrice() != -1)
-        text += QStringLiteral("; offer, formerly %1").arg(VelshopWords::amount(position.nonOfferPrice()));
+        text += QStringLiteral("; offer, formerly %1").arg(VelshopWords::money(position.nonOfferPrice()));
     return text;
 }
 
@@ -106,27 +116,48 @@ QJsonObject toJson(const PricedLine& theLine)
     return json;
 }
 
-QJsonObject toJson(const VelProductAbstract* theProduct, const VelshopArguments& theArguments, int theAmount,
-                   const QList<PricedLine>& theLines)
+/// What so many pieces of a product cost by one order way, as a bill of their own shows it.
+struct PricedArticle
 {
-    const bool hasPrice = theAmount != -1;
+    const VelProductAbstract* myProduct;
+    int myCount;
+    VelOrderSource mySource;
+    int myAmount; ///< cents, -1 for no price
+    QList<PricedLine> myLines;
+};
+
+QJsonObject toJson(const PricedArticle& theArticle)
+{
+    const bool hasPrice = theArticle.myAmount != -1;
     QJsonArray lines;
     if (hasPrice)
-        for (const PricedLine& line : theLines)
+        for (const PricedLine& line : theArticle.myLines)
             lines.append(toJson(line));
-    return {{QStringLiteral("article"), theProduct->articleID()},
-            {QStringLiteral("name"), theProduct->name()},
-            {QStringLiteral("count"), theArguments.myCount},
-            {QStringLiteral("orderSource"), VelshopWords::orderSource(theArguments.mySource)},
-            {QStringLiteral("amount"), hasPrice ? QJsonValue(theAmount) : QJsonValue()},
+    return {{QStringLiteral("article"), theArticle.myProduct->articleID()},
+            {QStringLiteral("name"), theArticle.myProduct->name()},
+            {QStringLiteral("count"), theArticle.myCount},
+            {QStringLiteral("orderSource"), VelshopWords::orderSource(theArticle.mySource)},
+            {QStringLiteral("amount"), hasPrice ? QJsonValue(theArticle.myAmount) : QJsonValue()},
+            {QStringLiteral("text"), hasPrice ? QJsonValue(VelshopWords::money(theArticle.myAmount)) : QJsonValue()},
             {QStringLiteral("lines"), lines}};
 }
 
-void printText(const QString& theHead, int theAmount, const QList<PricedLine>& theLines, QTextStream& theOutput)
+QString headText(const PricedArticle& theArticle)
 {
-    theOutput << theHead << ": " << VelshopWords::amount(theAmount) << '\n';
-    for (const PricedLine& line : theLines)
-        theOutput << lineText(line) << '\n';
+    return QStringLiteral("%1 %2, %3 pieces by %4")
+        .arg(QString::number(theArticle.myProduct->articleID()), theArticle.myProduct->name(),
+             QString::number(theArticle.myCount), VelshopWords::orderSource(theArticle.mySource));
+}
+
+void print(const PricedArticle& theArticle, bool theIsJson, QTextStream& theOutput)
+{
+    if (theIsJson) {
+        theOutput << QJsonDocument(toJson(theArticle)).toJson();
+    } else if (theArticle.myAmount != -1) {
+        theOutput << headText(theArticle) << ": " << VelshopWords::money(theArticle.myAmount) << '\n';
+        for (const PricedLine& line : theArticle.myLines)
+            theOutput << lineText(line) << '\n';
+    }
 }
 
 } // namespace
@@ -138,23 +169,22 @@ int priceArticle(const VelshopArguments& theArguments, QTextStream& theOutput, Q
         theError = QStringLiteral("the price list has no article %1").arg(theArguments.myArticle);
         return EXIT_BAD_INPUT;
     }
-    const VelTarmStatus status = statusOf(theArguments.mySource);
-    VelTarmBill bill(product->shippingGroupId(), VelOrderStatistic(), VelExpressType(), status);
-    const int amount = product->priceFor(status.priceKey(), theArguments.myCount, 0, &bill, nullptr);
-    const QList<PricedLine> lines = pricedLines(bill, theArguments.mySource);
-    const QString head =
-        QStringLiteral("%1 %2, %3 pieces by %4")
-            .arg(QString::number(product->articleID()), product->name(), QString::number(theArguments.myCount),
-                 VelshopWords::orderSource(theArguments.mySource));
-    if (isTooLarge(lines)) {
-        theError = head + QStringLiteral(": the amount is beyond 2147483647 cents");
+    const VelOrderSource source = orderSource(theArguments);
+    if (!source.isValid()) {
+        theError = QStringLiteral("KIOSK and ONSITE go together and with nothing else");
         return EXIT_BAD_INPUT;
     }
-    if (theArguments.myIsJson)
-        theOutput << QJsonDocument(toJson(product, theArguments, amount, lines)).toJson();
-    else if (amount != -1)
-        printText(head, amount, lines, theOutput);
+    VelTarmStatus status;
+    status.setOrderSource(source);
+    VelTarmBill bill(product->shippingGroupId(), VelOrderStatistic(), VelExpressType(), status);
+    const int amount = product->priceFor(status.priceKey(), theArguments.myCount, 0, &bill, nullptr);
+    const PricedArticle article{product, theArguments.myCount, source, amount, pricedLines(bill, source)};
+    if (isTooLarge(article.myLines)) {
+        theError = headText(article) + QStringLiteral(": the amount is beyond 2147483647 cents");
+        return EXIT_BAD_INPUT;
+    }
+    print(article, theArguments.myIsJson, theOutput);
     if (amount == -1)
-        theError = head + QStringLiteral(": no price");
+        theError = headText(article) + QStringLiteral(": no price");
     return amount == -1 ? EXIT_NO_PRICE : EXIT_DONE;
 }

@@ -1,5 +1,7 @@
 #include "host/VelshopWords.h"
 
+#include "ordering/VelCurrencyConfig.h"
+
 #include <QVector>
 
 namespace {
@@ -34,6 +36,31 @@ const QVector<Word<VelDiscountModel>> DISCOUNT_MODELS = {
     {"inherited discount", DISCOUNT_MODEL_INHERITED_DISCOUNT},
 };
 
+const QVector<Word<VelProductClass>> PRODUCT_CLASSES = {
+    {"book", PRODUCT_CLASS_FOTO_BOOK},
+    {"calendar", PRODUCT_CLASS_CALENDAR},
+    {"gift", PRODUCT_CLASS_GIFT},
+    {"card", PRODUCT_CLASS_CARD},
+};
+
+const QVector<Word<VelProductGroupEnum>> PRODUCT_GROUPS = {
+    {"prints", PRODUCT_GROUP_FOTO},
+    {"premium prints", PRODUCT_GROUP_PREMIUMFOTO},
+    {"posters", PRODUCT_GROUP_POSTER},
+    {"books", PRODUCT_GROUP_BOOK},
+    {"calendars", PRODUCT_GROUP_CALENDAR},
+    {"gifts and cards", PRODUCT_GROUP_GIFT},
+    {"add-ons", PRODUCT_GROUP_ADD_ON},
+    {"prints on site", PRODUCT_GROUP_ZQNFOTO},
+    {"professional prints", PRODUCT_GROUP_PROFESSIONALFOTO},
+};
+
+const QVector<Word<VelImageExportTypeEnum>> IMAGE_EXPORTS = {
+    {"locr", IMAGE_EXPORT_LOCR},
+    {"toi", IMAGE_EXPORT_TOI},
+    {"gallery", IMAGE_EXPORT_GALLERY},
+};
+
 template <typename Value>
 bool readWord(const QVector<Word<Value>>& theWords, const QString& theText, Value& theValue)
 {
@@ -52,7 +79,7 @@ QString wordOf(const QVector<Word<Value>>& theWords, Value theValue)
     for (const Word<Value>& word : theWords)
         if (word.myValue == theValue)
             return QLatin1String(word.myText);
-    return QStringLiteral("model %1").arg(theValue);
+    return QStringLiteral("no. %1").arg(theValue);
 }
 
 } // namespace
@@ -78,7 +105,27 @@ QString VelshopWords::discountModel(VelDiscountModel theDiscountModel)
     return wordOf(DISCOUNT_MODELS, theDiscountModel);
 }
 
-QString VelshopWords::amount(int theAmount)
+QString VelshopWords::productClass(VelProductClass theProductClass)
 {
-    return QStringLiteral("%1 cents").arg(theAmount);
+    return wordOf(PRODUCT_CLASSES, theProductClass);
+}
+
+QString VelshopWords::productGroup(VelProductGroupEnum theProductGroup)
+{
+    return wordOf(PRODUCT_GROUPS, theProductGroup);
+}
+
+QString VelshopWords::imageExport(VelImageExportTypeEnum theImageExport)
+{
+    return wordOf(IMAGE_EXPORTS, theImageExport);
+}
+
+QString VelshopWords::limit(int theNumber)
+{
+    return theNumber == -1 ? QStringLiteral("-") : QString::number(theNumber);
+}
+
+QString VelshopWords::money(int theAmount)
+{
+    return VelCurrencyConfig::instance()->fullText(theAmount, true, false, false);
 }

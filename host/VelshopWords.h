@@ -20,8 +20,20 @@ QString orderSource(const VelOrderSource& theOrderSource);
 /// As "bulk".
 QString discountModel(VelDiscountModel theDiscountModel);
 
-/// Whole cents, as "650 cents".
-QString amount(int theAmount);
+/// As "book".
+QString productClass(VelProductClass theProductClass);
+
+/// As "posters".
+QString productGroup(VelProductGroupEnum theProductGroup);
+
+/// As "gallery".
+QString imageExport(VelImageExportTypeEnum theImageExport);
+
+/// A number of which -1 means that there is none.
+QString limit(int theNumber);
+
+/// Whole cents in the primary currency with its symbol.
+QString money(int theAmount);
 
 } // namespace VelshopWords
 

@@ -3,9 +3,12 @@
 #include "host/VelshopExitCode.h"
 #include "host/VelshopList.h"
 #include "host/VelshopPrice.h"
+#include "host/VelshopShop.h"
+#include "host/VelshopTypes.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
+#include <QTranslator>
 
 namespace {
 
@@ -15,7 +18,18 @@ int runCommand(const VelshopArguments& theArguments, QString& theError)
     output.setCodec("UTF-8");
     if (theArguments.myCommand == QLatin1String("list"))
         return listArticles(theArguments, output, theError);
-    return priceArticle(theArguments, output, theError);
+    if (theArguments.myCommand == QLatin1String("price"))
+        return priceArticle(theArguments, output, theError);
+    if (theArguments.myCommand == QLatin1String("shop"))
+        return showShop(theArguments, output);
+    return listTypes(theArguments, output);
+}
+
+/// The texts stand in German; any other language needs a translation.
+void installLanguage(QTranslator& theTranslator, const QString& theLanguage)
+{
+    if (theLanguage != QLatin1String("de") && theTranslator.load(QStringLiteral(":/veltarm_%1.qm").arg(theLanguage)))
+        QCoreApplication::installTranslator(&theTranslator);
 }
 
 } // namespace
@@ -29,8 +43,12 @@ int main(int argc, char* argv[])
     VelshopArguments arguments;
     QString error;
     int exitCode = EXIT_BAD_INPUT;
-    if (readArguments(QCoreApplication::arguments(), arguments, error) && openAccount(arguments.myAccount, error))
-        exitCode = runCommand(arguments, error);
+    QTranslator translator;
+    if (readArguments(QCoreApplication::arguments(), arguments, error)) {
+        installLanguage(translator, arguments.myLanguage);
+        if (openAccount(arguments.myAccount, error))
+            exitCode = runCommand(arguments, error);
+    }
     if (!error.isEmpty()) {
         QTextStream errors(stderr);
         errors.setCodec("UTF-8");

@@ -1,0 +1,240 @@
+#include "host/VelshopShop.h"
+
+#include "frame/VelTarmGlobalStatus.h"
+#include "host/VelshopArguments.h"
+#include "host/VelshopExitCode.h"
+#include "host/VelshopTable.h"
+#include "host/VelshopWords.h"
+#include "ordering/VelCurrency.h"
+#include "ordering/VelCurrencyConfig.h"
+#include "ordering/VelOrderingDetailItem.h"
+#include "ordering/VelOrderingDetails.h"
+#include "ordering/VelTarmShippingGroup.h"
+#include "ordering/VelTarmShippingGroupManager.h"
+#include "product/VelProductGroupManager.h"
+#include "product/VelProductRegistry.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTextStream>
+
+namespace {
+
+const QString STR_ORDER_WAYS = QStringLiteral("orderWays");
+const QString STR_START = QStringLiteral("start");
+const QString STR_CURRENCIES = QStringLiteral("currencies");
+const QString STR_SHIPPING_GROUPS = QStringLiteral("shippingGroups");
+const QString STR_PRODUCT_GROUPS = QStringLiteral("productGroups");
+const QString STR_IMAGE_EXPORTS = QStringLiteral("imageExports");
+const QString STR_FLAGS = QStringLiteral("flags");
+const QString STR_OUTDATED = QStringLiteral("priceListOutdated");
+const QString STR_NAME = QStringLiteral("name");
+const QString STR_WAY = QStringLiteral("way");
+const QString STR_ENABLED = QStringLiteral("enabled");
+const QString STR_PAYMENTS = QStringLiteral("payments");
+const QString STR_PAYMENT = QStringLiteral("payment");
+const QString STR_TYPE = QStringLiteral("type");
+const QString STR_ICON = QStringLiteral("icon");
+const QString STR_ISO_CODE = QStringLiteral("isoCode");
+const QString STR_SAMPLE = QStringLiteral("sample");
+const QString STR_ID = QStringLiteral("id");
+const QString STR_TRANSFER_MODEL = QStringLiteral("transferModel");
+const QString STR_MAX_ORDER_ITEMS = QStringLiteral("maxOrderItems");
+const QString STR_LAST_CHANGE = QStringLiteral("lastChange");
+
+const int SAMPLE_AMOUNT = 123456;
+
+QJsonObject payment(const VelOrderingDetailItem* theItem)
+{
+    return {{STR_TYPE, theItem->paymentType()},
+            {STR_NAME, theItem->name()},
+            {QStringLiteral("brand"), theItem->brand()},
+            {STR_ICON, theItem->iconFilename()},
+            {QStringLiteral("blockable"), theItem->canBeBlockedForDefaultingUsers()}};
+}
+
+QString nameOfPayment(const VelOrderSource& theSource, VelPaymentType thePayment)
+{
+    for (const VelOrderingDetailItem* item : VelOrderingDetails::instance()->orderingDetails(theSource))
+        if (item->paymentType() == thePayment)
+            return item->name();
+    return QStringLiteral("payment %1").arg(thePayment);
+}
+
+QJsonArray orderWays()
+{
+    const VelOrderingDetails* details = VelOrderingDetails::instance();
+    QJsonArray ways;
+    for (const VelOrderSource& source : details->availableOrderSources()) {
+        QJsonArray payments;
+        for (const VelOrderingDetailItem* item : details->orderingDetails(source))
+            payments.append(payment(item));
+        ways.append(QJsonObject{{STR_WAY, VelshopWords::orderSource(source)},
+                                {STR_ENABLED, details->orderSourceEnabled(source)},
+                                {STR_PAYMENTS, payments}});
+    }
+    return ways;
+}
+
+QJsonObject start()
+{
+    const VelTarmGlobalStatus* status = VelTarmGlobalStatus::instance();
+    return {{STR_WAY, VelshopWords::orderSource(status->orderSource())},
+            {STR_TYPE, status->payment()},
+            {STR_PAYMENT, nameOfPayment(status->orderSource(), status->payment())}};
+}
+
+QJsonObject currency(bool theSecondary)
+{
+    const VelCurrencyConfig* config = VelCurrencyConfig::instance();
+    return {{STR_ISO_CODE, config->currency(theSecondary)->isoCode()},
+            {STR_NAME, config->currency(theSecondary)->genericName()},
+            {STR_SAMPLE, config->fullText(SAMPLE_AMOUNT, true, false, theSecondary)}};
+}
+
+QJsonArray currencies()
+{
+    QJsonArray array{currency(false)};
+    if (VelOrderingDetails::instance()->hasSecondaryCurrency())
+        array.append(currency(true));
+    return array;
+}
+
+QJsonArray shippingGroups()
+{
+    QJsonArray groups;
+    for (const VelTarmShippingGroup* group : VelTarmShippingGroupManager::instance()->shippingGroups())
+        groups.append(QJsonObject{{STR_ID, group->id()},
+                                  {STR_NAME, group->name()},
+                                  {STR_TRANSFER_MODEL, group->transferModel()},
+                                  {STR_MAX_ORDER_ITEMS, group->maxOrderItems()},
+                                  {STR_LAST_CHANGE, group->lastChange().toString(Qt::ISODate)}});
+    return groups;
+}
+
+/// The active groups that hold a product of their own: any add-on makes every group active.
+QJsonArray productGroups()
+{
+    QJsonArray groups;
+    for (const VelProductGroup& group : VelProductGroupManager::instance()->activeProductGroups())
+        if (VelProductRegistry::instance()->containsProductGroup(group))
+            groups.append(VelshopWords::productGroup(group.value()));
+    return groups;
+}
+
+QJsonArray imageExports()
+{
+    QJsonArray exports;
+    for (const VelImageExportTypeEnum type : {IMAGE_EXPORT_LOCR, IMAGE_EXPORT_TOI, IMAGE_EXPORT_GALLERY})
+        if (VelOrderingDetails::instance()->supportsImageExport(type))
+            exports.append(VelshopWords::imageExport(type));
+    return exports;
+}
+
+QJsonObject flags()
+{
+    const VelOrderingDetails* details = VelOrderingDetails::instance();
+    return {{QStringLiteral("doi"), details->requiresDOI()},
+            {QStringLiteral("addressCheck"), details->requiresAddressCheck()},
+            {QStringLiteral("salesTaxCheck"), details->requiresSalesTaxCheck()}};
+}
+
+QJsonObject conditions()
+{
+    return {{STR_ORDER_WAYS, orderWays()},
+            {STR_START, start()},
+            {STR_CURRENCIES, currencies()},
+            {STR_SHIPPING_GROUPS, shippingGroups()},
+            {STR_PRODUCT_GROUPS, productGroups()},
+            {STR_IMAGE_EXPORTS, imageExports()},
+            {STR_FLAGS, flags()},
+            {STR_OUTDATED, VelOrderingDetails::instance()->priceListNeedsToBeUpdated()}};
+}
+
+QString joined(const QJsonArray& theTexts)
+{
+    QStringList texts;
+    for (const QJsonValue& text : theTexts)
+        texts.append(text.toString());
+    return texts.isEmpty() ? QStringLiteral("none") : texts.join(QStringLiteral(", "));
+}
+
+QString paymentText(const QJsonObject& thePayment)
+{
+    const QString icon = thePayment.value(STR_ICON).toString();
+    return thePayment.value(STR_NAME).toString() + (icon.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(icon));
+}
+
+void printOrderWays(const QJsonObject& theConditions, QTextStream& theOutput)
+{
+    theOutput << "Order ways\n";
+    for (const QJsonValue& value : theConditions.value(STR_ORDER_WAYS).toArray()) {
+        const QJsonObject way = value.toObject();
+        QStringList payments;
+        for (const QJsonValue& payment : way.value(STR_PAYMENTS).toArray())
+            payments.append(paymentText(payment.toObject()));
+        theOutput << "  " << way.value(STR_WAY).toString() << ": " << payments.join(QStringLiteral(", "))
+                  << (way.value(STR_ENABLED).toBool() ? "" : " (not enabled)") << '\n';
+    }
+    const QJsonObject start = theConditions.value(STR_START).toObject();
+    theOutput << "  Starts with " << start.value(STR_WAY).toString() << ", " << start.value(STR_PAYMENT).toString()
+              << "\n\n";
+}
+
+void printCurrencies(const QJsonObject& theConditions, QTextStream& theOutput)
+{
+    theOutput << "Currencies\n";
+    for (const QJsonValue& value : theConditions.value(STR_CURRENCIES).toArray()) {
+        const QJsonObject currency = value.toObject();
+        theOutput << "  " << currency.value(STR_ISO_CODE).toString() << " " << currency.value(STR_NAME).toString()
+                  << ": " << currency.value(STR_SAMPLE).toString() << '\n';
+    }
+    theOutput << '\n';
+}
+
+void printShippingGroups(const QJsonObject& theConditions, QTextStream& theOutput)
+{
+    VelshopTable table({QStringLiteral("ID"), QStringLiteral("NAME"), QStringLiteral("TRANSFER MODEL"),
+                        QStringLiteral("MOST ITEMS"), QStringLiteral("LAST CHANGE")});
+    for (const QJsonValue& value : theConditions.value(STR_SHIPPING_GROUPS).toArray()) {
+        const QJsonObject group = value.toObject();
+        table.add({QString::number(group.value(STR_ID).toInt()), group.value(STR_NAME).toString(),
+                   VelshopWords::limit(group.value(STR_TRANSFER_MODEL).toInt()),
+                   VelshopWords::limit(group.value(STR_MAX_ORDER_ITEMS).toInt()),
+                   group.value(STR_LAST_CHANGE).toString()});
+    }
+    theOutput << "Shipping groups\n";
+    table.print(theOutput, QStringLiteral("  "));
+    theOutput << '\n';
+}
+
+void printFlags(const QJsonObject& theConditions, QTextStream& theOutput)
+{
+    const QJsonObject flags = theConditions.value(STR_FLAGS).toObject();
+    QJsonArray wanted;
+    for (const QString& name : flags.keys())
+        if (flags.value(name).toBool())
+            wanted.append(name);
+    theOutput << "Product groups: " << joined(theConditions.value(STR_PRODUCT_GROUPS).toArray()) << '\n'
+              << "Image exports: " << joined(theConditions.value(STR_IMAGE_EXPORTS).toArray()) << '\n'
+              << "Requires: " << joined(wanted) << '\n'
+              << "Price list: " << (theConditions.value(STR_OUTDATED).toBool() ? "older than its groups" : "up to date")
+              << '\n';
+}
+
+} // namespace
+
+int showShop(const VelshopArguments& theArguments, QTextStream& theOutput)
+{
+    const QJsonObject shop = conditions();
+    if (theArguments.myIsJson) {
+        theOutput << QJsonDocument(shop).toJson();
+        return EXIT_DONE;
+    }
+    printOrderWays(shop, theOutput);
+    printCurrencies(shop, theOutput);
+    printShippingGroups(shop, theOutput);
+    printFlags(shop, theOutput);
+    return EXIT_DONE;
+}

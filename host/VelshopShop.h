@@ -1,0 +1,11 @@
+#ifndef VELSHOPSHOP_H
+#define VELSHOPSHOP_H
+
+struct VelshopArguments;
+class QTextStream;
+
+/// Prints the conditions of the key account: order ways with their payments, the starting choice, currencies, shipping
+/// groups, product groups, image exports, flags, and whether the price list is older than its groups. The exit code.
+int showShop(const VelshopArguments& theArguments, QTextStream& theOutput);
+
+#endif
