@@ -1,32 +1,13 @@
-#include "benchmarks/SyntheticShop.h"
+#include "benchmarks/PriceListFile.h"
 #include "product/VelProductRegistry.h"
-#include "sibling/VelKeyAccount.h"
 
 #include <QDomDocument>
-#include <QTemporaryFile>
 
 #include <benchmark/benchmark.h>
 
 #include <memory>
 
 namespace {
-
-/// The price list of so many articles as a file of the key account.
-class PriceListFile
-{
-public:
-    explicit PriceListFile(int theArticleCount) : myBytes(syntheticPriceList(theArticleCount))
-    {
-        if (!myFile.open() || myFile.write(myBytes) != myBytes.size() || !myFile.flush())
-            qFatal("The price list of the benchmark can't be written");
-        VelKeyAccount::instance()->setPricelistXMLFileInfo(QFileInfo(myFile.fileName()));
-    }
-    const QByteArray& bytes() const { return myBytes; }
-
-private:
-    QByteArray myBytes;
-    QTemporaryFile myFile;
-};
 
 int countOf(const benchmark::State& theState)
 {

@@ -1,0 +1,135 @@
+#include "benchmarks/PriceListFile.h"
+#include "price/VelDiscountLimit.h"
+#include "price/VelTarmPriceKey.h"
+#include "product/VelProductAbstract.h"
+#include "product/VelProductRegistry.h"
+#include "product/VelProductSorting.h"
+
+#include <QRegExp>
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
+
+namespace {
+
+/// One registry for each size, kept for all queries.
+const VelProductRegistry& registry(int theArticleCount)
+{
+    static QMap<int, std::shared_ptr<VelProductRegistry>> registries;
+    std::shared_ptr<VelProductRegistry>& known = registries[theArticleCount];
+    if (!known) {
+        const PriceListFile file(theArticleCount);
+        known = std::make_shared<VelProductRegistry>();
+    }
+    return *known;
+}
+
+const VelProductRegistry& registryOf(const benchmark::State& theState)
+{
+    return registry(static_cast<int>(theState.range(0)));
+}
+
+template <typename Query>
+void measure(benchmark::State& theState, Query theQuery)
+{
+    const VelProductRegistry& products = registryOf(theState);
+    benchmark::DoNotOptimize(theQuery(products)); // fills what is made on first use
+    for (auto _ : theState)
+        benchmark::DoNotOptimize(theQuery(products));
+}
+
+void productWithArticleID(benchmark::State& theState)
+{
+    const int last = FIRST_ARTICLE_ID + static_cast<int>(theState.range(0)) - 1;
+    measure(theState, [=](const VelProductRegistry& theRegistry) { return theRegistry.productWithArticleID(last); });
+}
+
+void productsForShippingGroup(benchmark::State& theState)
+{
+    measure(theState,
+            [](const VelProductRegistry& theRegistry) { return theRegistry.productsForShippingGroup(1, true); });
+}
+
+void productsForProductGroup(benchmark::State& theState)
+{
+    measure(theState, [](const VelProductRegistry& theRegistry) {
+        return theRegistry.productsForProductGroup(VelProductGroup(PRODUCT_GROUP_FOTO), false);
+    });
+}
+
+void discountLimits(benchmark::State& theState)
+{
+    const VelTarmPriceKey key(VelOrderSource::onlineMailOrder(), -1, DISCOUNT_MODEL_UNDEFINED);
+    measure(theState, [&](const VelProductRegistry& theRegistry) { return theRegistry.discountLimits(1, key); });
+}
+
+void possibleAddOns(benchmark::State& theState)
+{
+    measure(theState,
+            [](const VelProductRegistry& theRegistry) { return theRegistry.possibleAddOns(FIRST_ARTICLE_ID); });
+}
+
+void orderTxtHeadNotFound(benchmark::State& theState)
+{
+    measure(theState, [](const VelProductRegistry& theRegistry) {
+        return theRegistry.findProductWithOrderTXTHead(QStringLiteral("[?]"), VelProductGroup(PRODUCT_GROUP_ALL));
+    });
+}
+
+/// The order by number with a regular expression for each comparison: what the sorted lists would cost without care.
+bool sortByExpression(VelProductAbstract* theLeft, VelProductAbstract* theRight)
+{
+    static const QRegExp pattern(QStringLiteral("(\\d+).*"));
+    const QString left = theLeft->name();
+    const QString right = theRight->name();
+    QRegExp leftPattern = pattern;
+    QRegExp rightPattern = pattern;
+    if (leftPattern.exactMatch(left) && rightPattern.exactMatch(right)) {
+        const int leftNumber = leftPattern.cap(1).toInt();
+        const int rightNumber = rightPattern.cap(1).toInt();
+        return leftNumber != rightNumber ? leftNumber < rightNumber : left.length() < right.length();
+    }
+    if (left.length() != right.length())
+        return left.length() < right.length();
+    return QString::compare(left, right, Qt::CaseInsensitive) < 0;
+}
+
+template <typename Sort>
+void measureSort(benchmark::State& theState, Sort theSort)
+{
+    const VelProductList products = registryOf(theState).productList();
+    for (auto _ : theState) {
+        VelProductList sorted = products;
+        theSort(sorted);
+        benchmark::DoNotOptimize(sorted);
+    }
+}
+
+void sortByNumberOnce(benchmark::State& theState)
+{
+    VelProductList expected = registryOf(theState).productList();
+    VelProductList sorted = expected;
+    qSort(expected.begin(), expected.end(), sortByExpression);
+    sortProductsByNumber(sorted);
+    if (sorted != expected)
+        theState.SkipWithError("another order");
+    measureSort(theState, [](VelProductList& theProducts) { sortProductsByNumber(theProducts); });
+}
+
+void sortByNumberPerComparison(benchmark::State& theState)
+{
+    measureSort(theState,
+                [](VelProductList& theProducts) { qSort(theProducts.begin(), theProducts.end(), sortByExpression); });
+}
+
+BENCHMARK(productWithArticleID)->Arg(1000)->Arg(10000);
+BENCHMARK(productsForShippingGroup)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(productsForProductGroup)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(discountLimits)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(possibleAddOns)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(orderTxtHeadNotFound)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(sortByNumberOnce)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(sortByNumberPerComparison)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+
+} // namespace
