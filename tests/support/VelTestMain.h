@@ -1,10 +1,15 @@
 #ifndef VELTESTMAIN_H
 #define VELTESTMAIN_H
 
-#include <QCoreApplication>
+#include "support/VelTestMessages.h"
+#include "support/VelTestTable.h"
+
 #include <QDomDocument>
-#include <QLocale>
 #include <QtTest>
+
+#include <algorithm>
+#include <limits>
+#include <memory>
 
 /// Runs the tests under a locale with decimal commas: no amount and no number may move because of it.
 #define VEL_TEST_MAIN(TestClass)                                                                                       \

@@ -3,8 +3,8 @@
 
 #include <QtTest>
 
-/// Test data as a table in text: the first line names the columns, each other line is a row whose first cell names it.
-/// Cells stand between "|" and are trimmed.
+/// Test data as a table in text: the first line names the columns, each other line is a row whose first cell names it
+/// and may be data, too. Cells stand between "|" and are trimmed.
 inline void readTable(const char* theTable)
 {
     const auto cells = [](const QString& theLine) {
@@ -16,7 +16,7 @@ inline void readTable(const char* theTable)
     QStringList lines = QString::fromUtf8(theTable).trimmed().split(QLatin1Char('\n'));
     const QStringList columns = cells(lines.takeFirst());
     static QList<QByteArray> names; // kept, since a column borrows its name
-    for (const QString& column : columns.mid(1)) {
+    for (const QString& column : columns) {
         names.append(column.toUtf8());
         QTest::addColumn<QString>(names.constLast().constData());
     }
@@ -25,7 +25,7 @@ inline void readTable(const char* theTable)
         if (row.size() != columns.size())
             qFatal("The test's own table has a row of another length: %s", qPrintable(line));
         QTestData& data = QTest::newRow(row.constFirst().toUtf8().constData());
-        for (const QString& text : row.mid(1))
+        for (const QString& text : row)
             data << text;
     }
 }
