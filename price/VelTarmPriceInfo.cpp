@@ -425,27 +425,19 @@ int VelTarmPriceInfo::pricePackage(const VelTarmPriceKey& theKey, int theCount,
         return -1;
 
     const int packageLevel = levelReached(source, model, theCount, true);
-    int rest = theCount;
-    int sum = 0;
-    if (packageLevel > 0) {
-        const VelTarmPriceValue& package = valueOrInvalid({source, model, packageLevel});
-        const bool isWhole = packageLevel == bestLevel;
-        sum = package.price();
-        if (thePositions)
-            thePositions->append(new VelTarmBillPosition(isWhole ? theCount : package.upperLimit(), myProduct, model,
-                                                         packageLevel, package.price(), 1, package.upperLimit(),
-                                                         shownNonOfferPrice(package)));
-        if (isWhole)
-            return sum;
-        // A package without a following level has the upper limit -1, and the rest comes to one more than the count.
-        rest = VelArithmetic::difference(theCount, package.upperLimit());
-    }
-    if (rest > 0) {
-        const VelTarmPriceValue& single = valueOrInvalid({source, model, bestLevel});
-        sum = VelArithmetic::sum(sum, VelArithmetic::product(single.price(), rest));
-        appendPosition(thePositions, single, model, bestLevel, rest);
-    }
-    return sum;
+    if (packageLevel == 0)
+        return priceOfItems({source, model, bestLevel}, theCount, thePositions);
+
+    const VelTarmPriceValue& package = valueOrInvalid({source, model, packageLevel});
+    const bool holdsAll = packageLevel == bestLevel;
+    appendPackage(thePositions, package, holdsAll ? theCount : package.upperLimit());
+    if (holdsAll)
+        return package.price();
+    // A package without a following level has the upper limit -1, and the rest comes to one more than the count.
+    const int rest = VelArithmetic::difference(theCount, package.upperLimit());
+    if (rest <= 0)
+        return package.price();
+    return VelArithmetic::sum(package.price(), priceOfItems({source, model, bestLevel}, rest, thePositions));
 }
 
 int VelTarmPriceInfo::priceInheritedDiscount(const VelTarmPriceKey& theKey, int theCount,
@@ -499,6 +491,25 @@ int VelTarmPriceInfo::priceOfOneFee(const VelTarmPricePlace& thePlace, VelTarmBi
     const VelTarmPriceValue& value = valueOrInvalid(thePlace);
     appendPosition(thePositions, value, thePlace.myModel, thePlace.myLevel, 1);
     return value.price();
+}
+
+/// So many items, each at the price of that place.
+int VelTarmPriceInfo::priceOfItems(const VelTarmPricePlace& thePlace, int theCount,
+                                   VelTarmBillPositionList* thePositions) const
+{
+    const VelTarmPriceValue& value = valueOrInvalid(thePlace);
+    appendPosition(thePositions, value, thePlace.myModel, thePlace.myLevel, theCount);
+    return VelArithmetic::product(theCount, value.price());
+}
+
+/// The line of one package, which stands for so many of its items.
+void VelTarmPriceInfo::appendPackage(VelTarmBillPositionList* thePositions, const VelTarmPriceValue& thePackage,
+                                     int theCountItems) const
+{
+    if (thePositions)
+        thePositions->append(new VelTarmBillPosition(theCountItems, myProduct, thePackage.discountModel(),
+                                                     thePackage.discountLevel(), thePackage.price(), 1,
+                                                     thePackage.upperLimit(), shownNonOfferPrice(thePackage)));
 }
 
 /// A line of so many items at the price of each; a null list wants none.

@@ -158,6 +158,9 @@ private:
     int applyRule(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
                   VelTarmBillPositionList* thePositions) const;
     int priceOfOneFee(const VelTarmPricePlace& thePlace, VelTarmBillPositionList* thePositions) const;
+    int priceOfItems(const VelTarmPricePlace& thePlace, int theCount, VelTarmBillPositionList* thePositions) const;
+    void appendPackage(VelTarmBillPositionList* thePositions, const VelTarmPriceValue& thePackage,
+                       int theCountItems) const;
     void appendPosition(VelTarmBillPositionList* thePositions, const VelTarmPriceValue& theValue,
                         VelDiscountModel theModel, int theLevel, int theCount) const;
 
