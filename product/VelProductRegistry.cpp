@@ -525,8 +525,11 @@ void VelProductRegistry::insertProduct(VelProductAbstract* theProduct)
     if (!theProduct)
         return;
     myProductList.append(theProduct);
-    if (theProduct->isProductClass(PRODUCT_CLASS_PRINT_FUN_MASK))
-        productsOfType(static_cast<VelProductPrintFun*>(theProduct)->productType())->append(theProduct);
+    if (!theProduct->isPrintFunProduct())
+        return;
+    // A host may bring a product of a print-fun class that isn't one, and so has no type to file it under.
+    if (const auto* printFun = dynamic_cast<VelProductPrintFun*>(theProduct))
+        productsOfType(printFun->productType())->append(theProduct);
 }
 
 void VelProductRegistry::setProductsDeprecated()

@@ -19,6 +19,7 @@ private slots:
     {
         myAccount.write("appearance.xml", "<a><defaultOrderSource inputSource='1' deliveryType='1'/></a>");
         VelDirectoryConfig::instance()->setConfigurationDirectory(myAccount.path());
+        myAccount.activate();
         const QRegularExpression missing("VelXMLLoader::loadDocumentElement\\(\\) -- .*");
         QTest::ignoreMessage(QtWarningMsg, missing); // ordering details
         QTest::ignoreMessage(QtWarningMsg, "VelTarmGlobalStatus::initOrderSource() -- Wir haben keinen Bestellweg.");

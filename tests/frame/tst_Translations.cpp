@@ -2,7 +2,6 @@
 #include "support/VelTestMain.h"
 
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTranslator>
 
 namespace {
@@ -42,37 +41,34 @@ class TranslationsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void everyTextHasATranslation();
-    void theTranslationIsBuiltIn();
+    /// Qt's own tool gathers the texts of the code anew: a text without a translation, or one of a text that is gone,
+    /// shows.
+    void everyTextHasATranslation()
+    {
+        const QTemporaryDir folder;
+        const QString gathered = folder.filePath("gathered_en.ts");
+        QVERIFY(QFile::copy(TRANSLATION, gathered));
+        QStringList arguments{"-silent", "-locations", "none"};
+        for (const char* part : {"frame", "price", "bill", "product", "ordering"})
+            arguments.append(QStringLiteral(VELTARM_SOURCE_DIR "/%1").arg(part));
+        arguments << "-ts" << gathered;
+        QCOMPARE(QProcess::execute(QStringLiteral(LUPDATE_PROGRAM), arguments), 0);
+
+        const QList<Message> all = messages(gathered);
+        QVERIFY(all.size() >= 6);
+        for (const Message& message : all)
+            QVERIFY2(message.myIsFinished && !message.myTranslation.isEmpty(),
+                     qPrintable(message.myContext + ": " + message.mySource));
+    }
+    void theTranslationIsBuiltIn()
+    {
+        QTranslator translator;
+        QVERIFY(translator.load(QStringLiteral(TRANSLATION_BINARY)));
+        for (const Message& message : messages(TRANSLATION))
+            QCOMPARE(translator.translate(message.myContext.toUtf8(), message.mySource.toUtf8()),
+                     message.myTranslation);
+    }
 };
-
-/// Qt's own tool gathers the texts of the code anew: a text without a translation, or one of a text that is gone,
-/// shows.
-void TranslationsTest::everyTextHasATranslation()
-{
-    const QTemporaryDir folder;
-    const QString gathered = folder.filePath("gathered_en.ts");
-    QVERIFY(QFile::copy(TRANSLATION, gathered));
-    QStringList arguments{"-silent", "-locations", "none"};
-    for (const char* part : {"frame", "price", "bill", "product", "ordering"})
-        arguments.append(QStringLiteral(VELTARM_SOURCE_DIR "/%1").arg(part));
-    arguments << "-ts" << gathered;
-    QCOMPARE(QProcess::execute(QStringLiteral(LUPDATE_PROGRAM), arguments), 0);
-
-    const QList<Message> all = messages(gathered);
-    QVERIFY(all.size() >= 6);
-    for (const Message& message : all)
-        QVERIFY2(message.myIsFinished && !message.myTranslation.isEmpty(),
-                 qPrintable(message.myContext + ": " + message.mySource));
-}
-
-void TranslationsTest::theTranslationIsBuiltIn()
-{
-    QTranslator translator;
-    QVERIFY(translator.load(QStringLiteral(TRANSLATION_BINARY)));
-    for (const Message& message : messages(TRANSLATION))
-        QCOMPARE(translator.translate(message.myContext.toUtf8(), message.mySource.toUtf8()), message.myTranslation);
-}
 
 VEL_TEST_MAIN(TranslationsTest)
 #include "tst_Translations.moc"

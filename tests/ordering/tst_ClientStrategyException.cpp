@@ -18,12 +18,6 @@ QString text(const VelClientStrategyException& theRecord)
         .arg(theRecord.showAGBCheckbox());
 }
 
-VelClientStrategyException departing()
-{
-    return VelClientStrategyException(FORGOTTEN_PASSWORD_SINGLEUSE, "a", FORGOTTEN_PASSWORD_NONE, "b",
-                                      CONNECT_STRATEGY_BOL, false, "c", false);
-}
-
 } // namespace
 
 class TestClientStrategyException : public QObject
@@ -33,41 +27,28 @@ class TestClientStrategyException : public QObject
 private slots:
     void setValues_data()
     {
-        QTest::addColumn<QString>("element");
-        QTest::addColumn<QString>("expected"); // after departing()
-        const auto row = [](const char* theName, const char* theAttributes, const char* theExpected) {
-            QTest::newRow(theName) << QStringLiteral("<client_strategy_exception %1/>").arg(theAttributes)
-                                   << theExpected;
-        };
-        row("none", "", "0[~] 0[~] 0 1 [~] 1");
-        row("all",
-            "userinsert_strategy='contact_email' userinsert_target=' X@y ' password_strategy='goto_url' "
-            "password_target='http:' connect_strategy='t-online-sam' logindata_editing='false' dns_mail_suffix='z,z' "
-            "show_agb_checkbox='0'",
-            "4[ X@y ] 2[http:] 1 0 [z,z] 0");
-        row("empty",
-            "userinsert_strategy='' userinsert_target='' password_strategy='' password_target='' connect_strategy='' "
-            "logindata_editing='' dns_mail_suffix='' show_agb_checkbox=''",
-            "0[] 0[] 0 1 [] 1");
-        row("case", "userinsert_strategy=' SingleUse ' password_strategy='SEND_EMAIL' connect_strategy='BOL'",
-            "6[~] 1[~] 2 1 [~] 1");
-        row("unknown and combined",
-            "userinsert_strategy='unknown' password_strategy='3,contact_email,send_email' "
-            "connect_strategy='bol, t-online-sam'",
-            "0[~] 5[~] 3 1 [~] 1");
-        const QString departed("6[a] 5[b] 2 0 [c] 0");
-        QTest::newRow("other tag") << "<client_strategy_exceptions connect_strategy='default'/>" << departed;
-        QTest::newRow("null element") << "" << departed;
+        readTable(R"(
+            row       | tag | attributes | expected
+            none      |     |            | 0[~] 0[~] 0 1 [~] 1
+            empty     |     | userinsert_target='' password_target='' logindata_editing='' dns_mail_suffix='' show_agb_checkbox='' | 0[] 0[] 0 1 [] 1
+            texts     |     | userinsert_target=' X@y ' password_target='http:' dns_mail_suffix='z,z' | 0[ X@y ] 0[http:] 0 1 [z,z] 1
+            other     |     | userinsert_strategy='contact_email' password_strategy='goto_url' connect_strategy='t-online-sam' logindata_editing='false' show_agb_checkbox='0' | 4[~] 2[~] 1 0 [~] 0
+            case      |     | userinsert_strategy=' SingleUse ' connect_strategy='BOL' | 6[~] 0[~] 2 1 [~] 1
+            combined  |     | userinsert_strategy='unknown' password_strategy='3,contact_email,send_email' connect_strategy='bol, t-online-sam' | 0[~] 5[~] 3 1 [~] 1
+            other tag | s   | connect_strategy='default' | 6[a] 5[b] 2 0 [c] 0
+        )");
     }
 
     void setValues()
     {
-        QFETCH(QString, element);
-        VelClientStrategyException record = departing();
-        record.setValues(element.isEmpty() ? QDomElement() : parsedElement(element));
-        QTEST(text(record), "expected");
+        VelClientStrategyException record(FORGOTTEN_PASSWORD_SINGLEUSE, "a", FORGOTTEN_PASSWORD_NONE, "b",
+                                          CONNECT_STRATEGY_BOL, false, "c", false);
+        record.setValues(QDomElement()); // changes nothing
+        QCOMPARE(text(record), "6[a] 5[b] 2 0 [c] 0");
+        record.setValues(element(cell("attributes"), cell("tag")));
+        QCOMPARE(text(record), cell("expected"));
         record.reset();
-        QCOMPARE(text(record), QString("0[] 0[] 0 1 [] 1"));
+        QCOMPARE(text(record), "0[] 0[] 0 1 [] 1");
         QCOMPARE(text(VelClientStrategyException()), text(record));
     }
 
@@ -76,7 +57,7 @@ private slots:
         VelClientStrategyException plain;
         const auto isEqual = [&plain](const char* theAttributes) {
             VelClientStrategyException record;
-            record.setValues(parsedElement(QStringLiteral("<client_strategy_exception %1/>").arg(theAttributes)));
+            record.setValues(element(theAttributes));
             return (record == plain) != (record != plain) && record == plain && plain == record;
         };
         for (const char* same : {"", "userinsert_target='' password_target=''", "connect_strategy='x'"})
@@ -85,6 +66,12 @@ private slots:
              {"userinsert_strategy='none'", "userinsert_target='t'", "password_strategy='none'", "password_target='t'",
               "connect_strategy='bol'", "logindata_editing='0'", "dns_mail_suffix='t'", "show_agb_checkbox='0'"})
             QVERIFY2(!isEqual(different), different);
+    }
+
+private:
+    static QDomElement element(const QString& theAttributes, const QString& theTagEnd = QString())
+    {
+        return parsedElement(QStringLiteral("<client_strategy_exception%1 %2/>").arg(theTagEnd, theAttributes));
     }
 };
 

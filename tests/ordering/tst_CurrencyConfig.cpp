@@ -1,10 +1,8 @@
 #include "frame/VelArithmetic.h"
 #include "ordering/VelCurrency.h"
 #include "ordering/VelCurrencyConfig.h"
-#include "ordering/VelOrderingDetails.h"
 #include "sibling/VelDirectoryConfig.h"
-#include "sibling/VelKeyAccount.h"
-#include "support/VelTestMain.h"
+#include "support/VelTestAccount.h"
 
 #include <cmath>
 #include <cstdio>
@@ -13,44 +11,35 @@ namespace {
 
 const int MOST_NEGATIVE = std::numeric_limits<int>::min();
 
-const QString PRINT = QStringLiteral("--print");
-
+/// Of the euro and of a franc that looks different in everything.
 const char* const EURO_AND_FRANC = "<c><x isocode='EUR'/><x isocode='CHF'><symbol>CHF</symbol>"
                                    "<symbolHTML>Fr.</symbolHTML><decimalsep>.</decimalsep>"
                                    "<symbolinfront>1</symbolinfront><decimalplaces>1</decimalplaces></x></c>";
 
-void write(const QTemporaryDir& theAccount, const QString& theName, const QString& theContent)
+/// Makes an account of these documents, if there are any, the application's; the second one is a section of the
+/// details.
+void use(const TestAccount& theAccount, const QString& theCurrencies, const QString& theDetails)
 {
-    QFile file(theAccount.filePath(theName));
-    if (!file.open(QIODevice::WriteOnly) || file.write(theContent.toUtf8()) < 0)
-        qFatal("The test can't write its own file.");
-}
-
-/// The currencies of the ordering details: `<c id='EUR'/><c id='CHF' factor='2'/>`, for instance.
-void writeDetails(const QTemporaryDir& theAccount, const QString& theCurrencies)
-{
-    write(theAccount, "orderingdetails.xml", QStringLiteral("<o><currencies>%1</currencies></o>").arg(theCurrencies));
-}
-
-void use(const QString& theAccount)
-{
-    VelDirectoryConfig::instance()->setConfigurationDirectory(theAccount);
-    VelKeyAccount::instance()->activate(QDir(theAccount));
+    if (!theCurrencies.isEmpty())
+        theAccount.write("currencies.xml", theCurrencies.toUtf8());
+    VelDirectoryConfig::instance()->setConfigurationDirectory(theAccount.path());
+    theAccount.activateWithDetails("<o><currencies>" + theDetails.toUtf8() + "</currencies></o>");
 }
 
 /// The configuration lives once in a process, so other accounts are tried in child processes, which run this instead of
-/// the tests: the texts of one account on the standard output.
+/// the tests: the texts of the account of two documents on the standard output.
 void printTexts()
 {
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) != PRINT)
+    if (arguments.value(1) != "--print")
         return;
-    use(arguments.value(2));
+    const TestAccount account;
+    use(account, arguments.value(2), arguments.value(3));
     const VelCurrencyConfig* config = VelCurrencyConfig::instance();
     const QStringList texts{config->fullText(999, true, false, false), config->fullText(999, true, false, true),
                             config->fullText(-999, true, false, true), config->text(0, true),
                             config->currencySymbol(true, true)};
-    std::fputs(texts.join(QLatin1Char('|')).toUtf8().constData(), stdout);
+    std::fputs(texts.join('/').toUtf8().constData(), stdout);
     std::exit(0);
 }
 Q_COREAPP_STARTUP_FUNCTION(printTexts)
@@ -62,51 +51,37 @@ class TestCurrencyConfig : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        write(myAccount, "currencies.xml", EURO_AND_FRANC);
-        writeDetails(myAccount, "<c id='EUR'/><c id='CHF' factor='2.0'/>");
-        use(myAccount.path());
-    }
+    void initTestCase() { use(myAccount, EURO_AND_FRANC, "<c id='EUR'/><c id='CHF' factor='2.0'/>"); }
 
     void flags()
     {
         const VelCurrencyConfig* config = VelCurrencyConfig::instance();
-        QCOMPARE(config->fullText(1234, true, false, false), QStringLiteral("12,34 €"));
-        QCOMPARE(config->fullText(1234, true, true, false), QStringLiteral("12,34 &euro;"));
-        QCOMPARE(config->fullText(1234, false, true, false), QStringLiteral("12,34"));
-        QCOMPARE(config->fullText(1234, true, true, true), QStringLiteral("Fr. 6.1"));
-        QCOMPARE(config->text(1234, false), QStringLiteral("12,34"));
-        QCOMPARE(config->text(1234, true), QStringLiteral("6.1"));
-        QCOMPARE(config->currencySymbol(false, false), QStringLiteral("€"));
-        QCOMPARE(config->currencySymbol(false, true), QStringLiteral("CHF"));
-        QCOMPARE(config->currencySymbol(true, true), QStringLiteral("Fr."));
+        QCOMPARE(config->fullText(1234, true, false, false), "12,34 €");
+        QCOMPARE(config->fullText(1234, true, true, false), "12,34 &euro;");
+        QCOMPARE(config->fullText(1234, false, true, false), "12,34");
+        QCOMPARE(config->fullText(1234, true, true, true), "Fr. 6.1");
+        QCOMPARE(config->text(1234, false), "12,34");
+        QCOMPARE(config->currencySymbol(false, false), "€");
+        QCOMPARE(config->currencySymbol(false, true), "CHF");
+        QCOMPARE(config->currencySymbol(true, true), "Fr.");
+
+        QCOMPARE(config->currency(QString("CHF")), config->currency(true));
+        QCOMPARE(config->currency(QString("EUR")), config->currency(false));
+        for (const QString& unknown : {QString("chf"), QString()}) {
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(QStringLiteral("unknown currency: '%1'").arg(unknown)));
+            QVERIFY(!config->currency(unknown));
+        }
     }
 
     /// Cut, not rounded: 500 would show as 5.0.
     void conversion()
     {
         const VelCurrencyConfig* config = VelCurrencyConfig::instance();
-        QCOMPARE(config->text(999, true), QStringLiteral("4.9"));
-        QCOMPARE(config->text(-999, true), QStringLiteral("-4.9"));
-        QCOMPARE(config->text(1, true), QStringLiteral("0.0"));
-        QCOMPARE(config->text(-1, true), QStringLiteral("0.0")); // no sign is left
-        QCOMPARE(config->text(MOST_NEGATIVE, true), QStringLiteral("-10737418.2"));
-    }
+        QCOMPARE(config->text(999, true), "4.9");
+        QCOMPARE(config->text(-999, true), "-4.9");
+        QCOMPARE(config->text(-1, true), "0.0"); // no sign is left
+        QCOMPARE(config->text(MOST_NEGATIVE, true), "-10737418.2");
 
-    void isoCodes()
-    {
-        const VelCurrencyConfig* config = VelCurrencyConfig::instance();
-        QCOMPARE(config->currency(QStringLiteral("CHF")), config->currency(true));
-        QCOMPARE(config->currency(QStringLiteral("EUR")), config->currency(false));
-        QTest::ignoreMessage(QtWarningMsg, "unknown currency: 'chf'");
-        QVERIFY(!config->currency(QStringLiteral("chf")));
-        QTest::ignoreMessage(QtWarningMsg, "unknown currency: ''");
-        QVERIFY(!config->currency(QString()));
-    }
-
-    void truncated()
-    {
         QCOMPARE(VelArithmetic::truncated(2147483647.9), 2147483647);
         QCOMPARE(VelArithmetic::truncated(2147483648.0), MOST_NEGATIVE);
         QCOMPARE(VelArithmetic::truncated(-2147483647.9), -2147483647);
@@ -116,94 +91,52 @@ private slots:
 
     void accounts_data()
     {
-        const QString nothing = "CHF -21474836.4|CHF -21474836.4|-21474836.4|Fr.";
-        QTest::addColumn<QString>("currencies");
-        QTest::addColumn<QString>("details");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("none named") << EURO_AND_FRANC << ""
-                                    << "9,99 €|9,99 €|-9,99 €|0,00|&euro;";
-        QTest::newRow("no secondary") << EURO_AND_FRANC << "<c id='CHF'/>"
-                                      << "CHF 9.9|CHF 9.9|CHF -9.9|0.0|Fr.";
-        QTest::newRow("unknown secondary") << EURO_AND_FRANC << "<c id='EUR'/><c id='XXX' factor='2'/>"
-                                           << "9,99 €|4,99 €|-4,99 €|0,00|&euro;";
-        QTest::newRow("unknown primary") << EURO_AND_FRANC << "<c id='XXX'/>"
-                                         << "||||";
-        QTest::newRow("only the secondary known") << EURO_AND_FRANC << "<c id='XXX'/><c id='CHF' factor='2'/>"
-                                                  << "|CHF 4.9|CHF -4.9|0.0|Fr.";
-        QTest::newRow("negative factor") << EURO_AND_FRANC << "<c id='EUR'/><c id='CHF' factor='-2'/>"
-                                         << "9,99 €|CHF -4.9|CHF 4.9|0.0|Fr.";
-        QTest::newRow("infinite factor") << EURO_AND_FRANC << "<c id='EUR'/><c id='CHF' factor='0'/>"
-                                         << "9,99 €|" + nothing;
-        QTest::newRow("malformed factor") << EURO_AND_FRANC << "<c id='EUR'/><c id='CHF' factor='0,5'/>"
-                                          << "9,99 €|" + nothing;
-        QTest::newRow("huge factor") << EURO_AND_FRANC << "<c id='EUR'/><c id='CHF' factor='1e-7'/>"
-                                     << "9,99 €|CHF -21474836.4|CHF -21474836.4|0.0|Fr.";
-        QTest::newRow("later of one code") << "<c><x isocode='EUR'/><y isocode='EUR'><symbol>E</symbol></y></c>"
-                                           << ""
-                                           << "9,99 E|9,99 E|-9,99 E|0,00|&euro;";
-        QTest::newRow("empty code") << "<c><x><symbol>E</symbol></x></c>"
-                                    << "<c id=''/>"
-                                    << "9,99 E|9,99 E|-9,99 E|0,00|&euro;";
+        readTable(R"(
+            row                       | currencies     | details                           | expected
+            none named                | EURO_AND_FRANC |                                   | 9,99 €/9,99 €/-9,99 €/0,00/&euro;
+            no secondary              | EURO_AND_FRANC | <c id='CHF'/>                     | CHF 9.9/CHF 9.9/CHF -9.9/0.0/Fr.
+            unknown secondary         | EURO_AND_FRANC | <c id='EUR'/><c id='XXX' factor='2'/> | 9,99 €/4,99 €/-4,99 €/0,00/&euro;
+            unknown primary           | EURO_AND_FRANC | <c id='XXX'/>                     | ////
+            only the secondary known  | EURO_AND_FRANC | <c id='XXX'/><c id='CHF' factor='2'/> | /CHF 4.9/CHF -4.9/0.0/Fr.
+            negative factor           | EURO_AND_FRANC | <c id='EUR'/><c id='CHF' factor='-2'/> | 9,99 €/CHF -4.9/CHF 4.9/0.0/Fr.
+            infinite factor           | EURO_AND_FRANC | <c id='EUR'/><c id='CHF' factor='0'/> | 9,99 €/CHF -21474836.4/CHF -21474836.4/-21474836.4/Fr.
+            huge factor               | EURO_AND_FRANC | <c id='EUR'/><c id='CHF' factor='1e-7'/> | 9,99 €/CHF -21474836.4/CHF -21474836.4/0.0/Fr.
+            later of one code         | <c><x isocode='EUR'/><y isocode='EUR'><symbol>E</symbol></y></c> | | 9,99 E/9,99 E/-9,99 E/0,00/&euro;
+            empty code                | <c><x><symbol>E</symbol></x></c> | <c id=''/>      | 9,99 E/9,99 E/-9,99 E/0,00/&euro;
+            no file: the program ends |                |                                   |
+            no XML                    | <c><x isocode='EUR'/> |                            |
+            no element                | <c><!-- none --></c>  |                            |
+        )");
     }
 
     void accounts()
     {
-        QFETCH(QString, currencies);
-        QFETCH(QString, details);
-        const QTemporaryDir account;
-        write(account, "currencies.xml", currencies);
-        writeDetails(account, details);
         QProcess child;
-        child.start(QCoreApplication::applicationFilePath(), {PRINT, account.path()});
+        const QString currencies = cell("currencies").replace("EURO_AND_FRANC", EURO_AND_FRANC);
+        child.start(QCoreApplication::applicationFilePath(), {"--print", currencies, cell("details")});
         QVERIFY(child.waitForFinished());
-        QTEST(QString::fromUtf8(child.readAllStandardOutput()), "expected");
-        QCOMPARE(child.exitCode(), 0);
-    }
-
-    void withoutCurrencies_data()
-    {
-        QTest::addColumn<QString>("currencies");
-        QTest::newRow("no file") << QString();
-        QTest::newRow("no XML") << "<c><x isocode='EUR'/>";
-        QTest::newRow("no element") << "<c><!-- none --></c>";
-    }
-
-    /// The program ends.
-    void withoutCurrencies()
-    {
-        QFETCH(QString, currencies);
-        const QTemporaryDir account;
-        if (!currencies.isNull())
-            write(account, "currencies.xml", currencies);
-        QProcess child;
-        child.start(QCoreApplication::applicationFilePath(), {PRINT, account.path()});
-        QVERIFY(child.waitForFinished());
-        QCOMPARE(child.exitStatus(), QProcess::CrashExit);
+        QCOMPARE(QString::fromUtf8(child.readAllStandardOutput()), cell("expected"));
+        QCOMPARE(child.exitStatus(), cell("expected").isEmpty() ? QProcess::CrashExit : QProcess::NormalExit);
         const QByteArray fatal =
             "VelCurrencyConfig::VelCurrencyConfig() no currencies defined, building default entry\n";
-        const QByteArray messages = child.readAllStandardError();
-        QVERIFY2(messages.contains(fatal), messages.constData());
+        QCOMPARE(child.readAllStandardError().contains(fatal), cell("expected").isEmpty());
     }
 
     /// The currencies stay, with their looks; the factor is the new account's.
     void changeOfKeyAccount()
     {
         const VelCurrencyConfig* config = VelCurrencyConfig::instance();
-        const QTemporaryDir account;
-        write(account, "currencies.xml", "<c><x isocode='JPY'/></c>");
-        writeDetails(account, "<c id='CHF'/><c id='EUR' factor='0.5'/>");
-        use(account.path());
+        const TestAccount account;
+        use(account, "<c><x isocode='JPY'/></c>", "<c id='CHF'/><c id='EUR' factor='0.5'/>");
         QCOMPARE(VelCurrencyConfig::instance(), config);
-        QCOMPARE(config->fullText(999, true, false, false), QStringLiteral("9,99 €"));
-        QCOMPARE(config->fullText(999, true, false, true), QStringLiteral("CHF 19.9")); // 1998
-
-        writeDetails(account, "<c id='JPY'/>"); // no secondary currency any more
-        use(account.path());
-        QCOMPARE(config->fullText(999, true, false, true), QStringLiteral("CHF 9.9"));
+        QCOMPARE(config->fullText(999, true, false, false), "9,99 €");
+        QCOMPARE(config->fullText(999, true, false, true), "CHF 19.9"); // 1998
+        use(account, "<c><x isocode='JPY'/></c>", "<c id='JPY'/>");     // no secondary currency any more
+        QCOMPARE(config->fullText(999, true, false, true), "CHF 9.9");
     }
 
 private:
-    QTemporaryDir myAccount;
+    const TestAccount myAccount;
 };
 
 VEL_TEST_MAIN(TestCurrencyConfig)

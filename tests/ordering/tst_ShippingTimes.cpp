@@ -3,9 +3,9 @@
 
 namespace {
 
-QDomElement xml(const char* theXml)
+VelTarmShippingTime timeOf(const QString& theAttributes)
 {
-    return parsedElement(QString::fromUtf8(theXml));
+    return VelTarmShippingTime(parsedElement(QStringLiteral("<any %1/>").arg(theAttributes)));
 }
 
 } // namespace
@@ -17,93 +17,84 @@ class TestShippingTimes : public QObject
 private slots:
     void days_data()
     {
-        QTest::addColumn<QString>("days");
-        QTest::addColumn<int>("min");
-        QTest::addColumn<int>("max");
-        QTest::newRow("absent") << QString() << -1 << -1;
-        QTest::newRow("word") << "bald" << -1 << -1;
-        QTest::newRow("range") << "3-5" << 3 << 5;
-        QTest::newRow("range downwards") << "5-3" << 5 << 3;
-        QTest::newRow("chain: first and last") << "3-5-7" << 3 << 7;
-        QTest::newRow("chain with open end") << "3-5-" << 3 << 5;
-        QTest::newRow("open beginning") << "-3" << 3 << 3;
-        QTest::newRow("amid text") << "ca. 2-4 Tage" << 2 << 4;
-        QTest::newRow("first match only") << "3 oder 5-7" << 3 << 3;
-        QTest::newRow("two hyphens end the range") << "3--5" << 3 << 3;
-        QTest::newRow("too large") << "99999999999" << 0 << 0;
-        QTest::newRow("lower end too large") << "99999999999-5" << 0 << 5;
-        QTest::newRow("upper end too large") << "5-99999999999" << 5 << 5;
-        QTest::newRow("too large at the end of a chain") << "3-7-99999999999" << 3 << 3;
+        readTable(R"(
+            row                              | days                 | min | max
+            word                             | bald                 | -1  | -1
+            range downwards                  | 5-3                  | 5   | 3
+            chain: first and last            | 3-5-7                | 3   | 7
+            chain with open end              | 3-5-                 | 3   | 5
+            open beginning                   | -3                   | 3   | 3
+            amid text                        | ca. 2-4 Tage         | 2   | 4
+            first match only                 | 3 oder 5-7           | 3   | 3
+            two hyphens end the range        | 3--5                 | 3   | 3
+            too large                        | 99999999999          | 0   | 0
+            lower end too large              | 99999999999-5        | 0   | 5
+            upper end too large              | 5-99999999999        | 5   | 5
+            too large at the end of a chain  | 3-7-99999999999      | 3   | 3
+        )");
     }
 
     void days()
     {
-        QFETCH(QString, days);
-        QFETCH(int, min);
-        QFETCH(int, max);
-        QDomElement element = xml("<any delivery_type='1' express='0'/>");
-        if (!days.isNull())
-            element.setAttribute(QStringLiteral("days"), days);
-        const VelTarmShippingTime time(element);
-        QCOMPARE(time.minDays(), min);
-        QCOMPARE(time.maxDays(), max);
-        QCOMPARE(time.varies(), min != max);
+        const VelTarmShippingTime time =
+            timeOf(QStringLiteral("delivery_type='1' express='0' days='%1'").arg(cell("days")));
+        QCOMPARE(time.minDays(), number("min"));
+        QCOMPARE(time.maxDays(), number("max"));
+        QCOMPARE(time.varies(), number("min") != number("max"));
         QVERIFY(time.isValid()); // the days play no part
     }
 
     void validity_data()
     {
-        QTest::addColumn<QString>("attributes");
-        QTest::addColumn<int>("delivery");
-        QTest::addColumn<int>("express");
-        QTest::addColumn<bool>("valid");
-        QTest::newRow("both") << "delivery_type='1' express='0'" << 1 << 1 << true;
-        QTest::newRow("blanks") << "delivery_type=' 2 ' express=' 2 '" << 2 << 3 << true;
-        QTest::newRow("no express") << "delivery_type='1'" << 1 << 0 << false;
-        QTest::newRow("unknown express") << "delivery_type='1' express='7'" << 1 << 0 << false;
-        QTest::newRow("no delivery is any") << "express='0'" << -1 << 1 << true;
-        QTest::newRow("unknown delivery") << "delivery_type='abc' express='0'" << -2 << 1 << false;
-        QTest::newRow("unknown with known delivery") << "delivery_type='abc,1' express='0'" << -1 << 1 << true;
-        QTest::newRow("combined") << "delivery_type='1,2' express='0,1'" << 3 << 3 << true;
+        readTable(R"(
+            attributes                          | delivery | express | valid
+            delivery_type=' 2 ' express=' 2 '   | 2        | 3       | yes
+            delivery_type='1'                   | 1        | 0       | no
+            delivery_type='1' express='7'       | 1        | 0       | no
+            express='0'                         | -1       | 1       | yes
+            delivery_type='abc' express='0'     | -2       | 1       | no
+            delivery_type='abc,1' express='0'   | -1       | 1       | yes
+            delivery_type='1,2' express='0,1'   | 3        | 3       | yes
+        )");
     }
 
     void validity()
     {
-        QFETCH(QString, attributes);
-        const VelTarmShippingTime time(parsedElement(QStringLiteral("<shipping_time %1/>").arg(attributes)));
-        QTEST(int(time.deliveryType()), "delivery");
-        QTEST(int(time.expressType().value()), "express");
-        QTEST(time.isValid(), "valid");
+        const VelTarmShippingTime time = timeOf(cell("attributes"));
+        QCOMPARE(int(time.deliveryType()), number("delivery"));
+        QCOMPARE(int(time.expressType().value()), number("express"));
+        QCOMPARE(time.isValid(), answer("valid"));
+        QCOMPARE(time.minDays(), -1);
     }
 
     void values()
     {
         const VelTarmShippingTime none;
-        QCOMPARE(int(none.deliveryType()), -2);
-        QCOMPARE(int(none.expressType().value()), 0);
-        QCOMPARE(none.minDays(), -1);
+        QCOMPARE((QList<int>{none.deliveryType(), none.expressType().value(), none.minDays()}),
+                 (QList<int>{-2, 0, -1}));
         QVERIFY(!none.isValid() && !none.varies());
 
-        const VelTarmShippingTime one(xml("<t days='3-5' delivery_type='1' express='0'/>"));
-        QVERIFY(one == VelTarmShippingTime(xml("<t days='3-4-5' delivery_type=' 1' express='0'/>")));
+        const VelTarmShippingTime one = timeOf("days='3-5' delivery_type='1' express='0'");
+        QVERIFY(one == timeOf("days='3-4-5' delivery_type=' 1' express='0'"));
         for (const char* other :
-             {"<t days='4-5' delivery_type='1' express='0'/>", "<t days='3-6' delivery_type='1' express='0'/>",
-              "<t days='3-5' delivery_type='0' express='0'/>", "<t days='3-5' delivery_type='1' express='1'/>"})
-            QVERIFY2(!(one == VelTarmShippingTime(xml(other))), other);
+             {"days='4-5' delivery_type='1' express='0'", "days='3-6' delivery_type='1' express='0'",
+              "days='3-5' delivery_type='0' express='0'", "days='3-5' delivery_type='1' express='1'"})
+            QVERIFY2(!(one == timeOf(other)), other);
     }
 
     void list()
     {
-        for (int dropped = 0; dropped < 2; ++dropped)
-            QTest::ignoreMessage(QtWarningMsg,
-                                 "VelTarmShippingTimeList::update(const QDomElement &), invalid shippingTime");
-        VelTarmShippingTimeList times(xml("<shipping_times><shipping_time days='1' delivery_type='1'/>" // dropped
-                                          "<shipping_time days='2' delivery_type='1' express='0'/>"
-                                          "<shipping_time days='3' delivery_type='1' express='0'/>"
-                                          "<other days='4' delivery_type='0' express='0'/>"
-                                          "<deeper><shipping_time days='5' delivery_type='0' express='0'/></deeper>"
-                                          "<shipping_time days='6' delivery_type='x' express='0'/>" // dropped
-                                          "<shipping_time days='7' express='1'/></shipping_times>"));
+        const MessageCatcher messages;
+        VelTarmShippingTimeList times(parsedElement(R"(<shipping_times>
+            <shipping_time days='1' delivery_type='1'/>
+            <shipping_time days='2' delivery_type='1' express='0'/>
+            <shipping_time days='3' delivery_type='1' express='0'/>
+            <other days='4' delivery_type='0' express='0'/>
+            <deeper><shipping_time days='5' delivery_type='0' express='0'/></deeper>
+            <shipping_time days='6' delivery_type='x' express='0'/>
+            <shipping_time days='7' express='1'/></shipping_times>)"));
+        const QString warning = "VelTarmShippingTimeList::update(const QDomElement &), invalid shippingTime";
+        QCOMPARE(messages.texts(), (QStringList{warning, warning}));
         const auto days = [&times](VelDeliveryType theDelivery, VelExpressTypeEnum theExpress) {
             const VelTarmShippingTime time = times.shippingTime(theDelivery, theExpress);
             return time.isValid() == times.isExpressable(theDelivery, theExpress) ? time.minDays() : -99;
@@ -115,8 +106,8 @@ private slots:
         QCOMPARE(days(DELIVERY_TYPE_ANY, ExpressableType_EXPRESS_1), 7);
 
         const VelTarmShippingTimeList full = times;
-        for (const QDomElement& emptying : {QDomElement(), xml("<shipping_times/>"),
-                                            xml("<times><shipping_time delivery_type='1' express='0'/></times>")}) {
+        for (const QDomElement& emptying :
+             {QDomElement(), parsedElement("<times><shipping_time delivery_type='1' express='0'/></times>")}) {
             times = full;
             QVERIFY(!times.isEmpty());
             times.update(emptying);

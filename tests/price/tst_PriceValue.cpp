@@ -1,26 +1,7 @@
 #include "price/VelTarmPriceValue.h"
 #include "support/VelTestMain.h"
-#include "support/VelTestTable.h"
 
 #include <QSet>
-
-/// One band and one price entry, as values.
-class PriceValueTest : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void typeOfElement_data();
-    void typeOfElement();
-    void numbers_data();
-    void numbers();
-    void limitComparison();
-    void limitStreamHashAndCopy();
-    void validity_data();
-    void validity();
-    void invalidPrice();
-    void everyFieldCountsInEquality();
-};
 
 namespace {
 
@@ -37,177 +18,185 @@ VelTarmPriceValue valueOf(const QString& theAttributes, const QString& theProduc
 
 } // namespace
 
-void PriceValueTest::typeOfElement_data()
+/// One band and one price entry, as values.
+class PriceValueTest : public QObject
 {
-    readTable(R"(
-        row                     | product       | attributes | model | package
-        default                 | article       |            | 1     | yes
-        default of a transfer   | transfer      |            | 4     | no
-        default of express      | express_fee   |            | 7     | no
-        other case of the tag   | Transfer      |            | 1     | yes
-        empty type              | transfer      | type=''    | 4     | no
-        blank type is a type    | transfer      | type=' '   | 9     | no
-        b                       | article       | type='b'   | 1     | no
-        B of a transfer         | transfer      | type='B'   | 1     | no
-        F of an article         | article       | type='F'   | 4     | yes
-        P                       | article       | type='P'   | 3     | yes
-        p                       | article       | type='p'   | 3     | no
-        blank before P          | article       | type=' P'  | 3     | no
-        i                       | article       | type='i'   | 8     | no
-        combined, upper first   | article       | type='B,l' | 3     | yes
-        combined, lower first   | article       | type='b,L' | 3     | no
-        unknown                 | article       | type='PP'  | 9     | yes
-    )");
-}
+    Q_OBJECT
 
-void PriceValueTest::typeOfElement()
-{
-    const VelDiscountLimit read = valueOf(cell("attributes"), cell("product")).discountLimit();
-    QCOMPARE(static_cast<int>(read.discountModel()), number("model"));
-    QCOMPARE(read.isPackage(), answer("package"));
+private slots:
+    void typeOfElement_data()
+    {
+        readTable(R"(
+            row                     | product       | attributes | model | package
+            default                 | article       |            | 1     | yes
+            default of a transfer   | transfer      |            | 4     | no
+            default of express      | express_fee   |            | 7     | no
+            other case of the tag   | Transfer      |            | 1     | yes
+            empty type              | transfer      | type=''    | 4     | no
+            blank type is a type    | transfer      | type=' '   | 9     | no
+            b                       | article       | type='b'   | 1     | no
+            B of a transfer         | transfer      | type='B'   | 1     | no
+            F of an article         | article       | type='F'   | 4     | yes
+            P                       | article       | type='P'   | 3     | yes
+            p                       | article       | type='p'   | 3     | no
+            blank before P          | article       | type=' P'  | 3     | no
+            i                       | article       | type='i'   | 8     | no
+            combined, upper first   | article       | type='B,l' | 3     | yes
+            combined, lower first   | article       | type='b,L' | 3     | no
+            unknown                 | article       | type='PP'  | 9     | yes
+        )");
+    }
 
-    // The tag counts two levels above the entry only.
-    const QDomElement flat = parsedElement(QStringLiteral("<a><transfer><e/></transfer></a>"));
-    QCOMPARE(VelDiscountLimit(flat.firstChildElement().firstChildElement()).discountModel(), DISCOUNT_MODEL_BULK);
-}
+    void typeOfElement()
+    {
+        const VelDiscountLimit read = valueOf(cell("attributes"), cell("product")).discountLimit();
+        QCOMPARE(static_cast<int>(read.discountModel()), number("model"));
+        QCOMPARE(read.isPackage(), answer("package"));
 
-void PriceValueTest::numbers_data()
-{
-    readTable(R"(
-        row              | text        | isNumber
-        zero             | 0           | yes
-        minus            | -3          | yes
-        highest          | 2147483647  | yes
-        lowest           | -2147483648 | yes
-        empty            |             | no
-        too high         | 2147483648  | no
-        decimal comma    | 12,50       | no
-        thousands        | 1.000       | no
-        trailing letters | 12ct        | no
-    )");
-}
+        // The tag counts two levels above the entry only.
+        const QDomElement flat = parsedElement(QStringLiteral("<a><transfer><e/></transfer></a>"));
+        QCOMPARE(VelDiscountLimit(flat.firstChildElement().firstChildElement()).discountModel(), DISCOUNT_MODEL_BULK);
+    }
 
-void PriceValueTest::numbers()
-{
-    const VelTarmPriceValue value =
-        valueOf(QStringLiteral("price='%1' quantity='%1' level='%1' transfer_unit_price='%1' transfer_base_price='%1' "
-                               "non_offer_price='%1'")
-                    .arg(cell("text")));
-    const int orNone = answer("isNumber") ? number("text") : -1;
-    const int orZero = answer("isNumber") ? number("text") : 0;
-    QCOMPARE(value.price(), orNone);
-    QCOMPARE(value.nonOfferPrice(), orNone);
-    QCOMPARE(value.lowerLimit(), orZero);
-    QCOMPARE(value.discountLevel(), orZero);
-    QCOMPARE(value.unitTransferPrice(), orZero);
-    QCOMPARE(value.baseTransferPrice(), orZero);
-    QCOMPARE(value.isValid(), answer("isNumber"));
-}
+    void numbers_data()
+    {
+        readTable(R"(
+            row              | text        | isNumber
+            zero             | 0           | yes
+            minus            | -3          | yes
+            highest          | 2147483647  | yes
+            lowest           | -2147483648 | yes
+            empty            |             | no
+            too high         | 2147483648  | no
+            decimal comma    | 12,50       | no
+            thousands        | 1.000       | no
+            trailing letters | 12ct        | no
+        )");
+    }
 
-void PriceValueTest::limitComparison()
-{
-    const QList<VelDiscountLimit> rising = {limit(1, -5, 99, 9, true), limit(1, 5, -1, 9, true),
-                                            limit(1, 5, 9, 1, true), limit(1, 6, 0, 0, true),
-                                            limit(2, -9, -9, 0, true)};
-    for (int i = 0; i < rising.size(); ++i) {
-        for (int j = 0; j < rising.size(); ++j) {
-            QCOMPARE(rising.at(i) < rising.at(j), i < j);
-            QCOMPARE(rising.at(i) == rising.at(j), i == j);
-            QCOMPARE(rising.at(i) != rising.at(j), i != j);
+    void numbers()
+    {
+        const VelTarmPriceValue value = valueOf(
+            QStringLiteral("price='%1' quantity='%1' level='%1' transfer_unit_price='%1' transfer_base_price='%1' "
+                           "non_offer_price='%1'")
+                .arg(cell("text")));
+        const int orNone = answer("isNumber") ? number("text") : -1;
+        const int orZero = answer("isNumber") ? number("text") : 0;
+        QCOMPARE(value.price(), orNone);
+        QCOMPARE(value.nonOfferPrice(), orNone);
+        QCOMPARE(value.lowerLimit(), orZero);
+        QCOMPARE(value.discountLevel(), orZero);
+        QCOMPARE(value.unitTransferPrice(), orZero);
+        QCOMPARE(value.baseTransferPrice(), orZero);
+        QCOMPARE(value.isValid(), answer("isNumber"));
+    }
+
+    void limitComparison()
+    {
+        const QList<VelDiscountLimit> rising = {limit(1, -5, 99, 9, true), limit(1, 5, -1, 9, true),
+                                                limit(1, 5, 9, 1, true), limit(1, 6, 0, 0, true),
+                                                limit(2, -9, -9, 0, true)};
+        for (int i = 0; i < rising.size(); ++i) {
+            for (int j = 0; j < rising.size(); ++j) {
+                QCOMPARE(rising.at(i) < rising.at(j), i < j);
+                QCOMPARE(rising.at(i) == rising.at(j), i == j);
+                QCOMPARE(rising.at(i) != rising.at(j), i != j);
+            }
+        }
+        // Level and package flag take part in equality only.
+        for (const VelDiscountLimit& other : {limit(1, 5, 9, 7, true), limit(1, 5, 9, 1, false)}) {
+            QVERIFY(!(other < rising.at(2)) && !(rising.at(2) < other) && other != rising.at(2));
+            QCOMPARE((QSet<VelDiscountLimit>{other, rising.at(2), other}).size(), 2);
         }
     }
-    // Level and package flag take part in equality only.
-    for (const VelDiscountLimit& other : {limit(1, 5, 9, 7, true), limit(1, 5, 9, 1, false)}) {
-        QVERIFY(!(other < rising.at(2)) && !(rising.at(2) < other) && other != rising.at(2));
-        QCOMPARE((QSet<VelDiscountLimit>{other, rising.at(2), other}).size(), 2);
+
+    void limitStreamHashAndCopy()
+    {
+        // The model is printed as if it were bits: 3 gives the letters of 1 and 2.
+        QString text;
+        QDebug(&text) << limit(3, -1, 20, 4, true) << limit(8, 7, -1, 0, false);
+        QCOMPARE(text, QStringLiteral("\nLower Limit: -1 \n Upper Limit: 20 \n Level: 4 \n IsPackage: true \n "
+                                      "Dicount Model: \"B,L\" \n "
+                                      "\nLower Limit: 7 \n Upper Limit: -1 \n Level: 0 \n IsPackage: false \n "
+                                      "Dicount Model: \"I\" \n "));
+        QCOMPARE(qHash(limit(3, -1, 20, 4, true)), 4294967199U);
+        QCOMPARE(qHash(limit(8, 7, -1, 0, false)), 708U);
+
+        QVERIFY(VelDiscountLimit() == limit(0, 0, -1, 0, false));
+        const VelDiscountLimit band = limit(3, 10, 19, 2, true);
+        QVERIFY(VelDiscountLimit(band, DISCOUNT_MODEL_UNDEFINED) == band);
+        QVERIFY(VelDiscountLimit(band, DISCOUNT_MODEL_BULK) == limit(1, 10, 19, 2, true));
     }
-}
 
-void PriceValueTest::limitStreamHashAndCopy()
-{
-    // The model is printed as if it were bits: 3 gives the letters of 1 and 2.
-    QString text;
-    QDebug(&text) << limit(3, -1, 20, 4, true) << limit(8, 7, -1, 0, false);
-    QCOMPARE(text, QStringLiteral("\nLower Limit: -1 \n Upper Limit: 20 \n Level: 4 \n IsPackage: true \n "
-                                  "Dicount Model: \"B,L\" \n "
-                                  "\nLower Limit: 7 \n Upper Limit: -1 \n Level: 0 \n IsPackage: false \n "
-                                  "Dicount Model: \"I\" \n "));
-    QCOMPARE(qHash(limit(3, -1, 20, 4, true)), 4294967199U);
-    QCOMPARE(qHash(limit(8, 7, -1, 0, false)), 708U);
+    void validity_data()
+    {
+        readTable(R"(
+            row                  | attributes                                             | valid | end
+            nothing              |                                                        | no    | epoch
+            type B               | type='B'                                               | no    | epoch
+            type b               | type='b'                                               | yes   | epoch
+            quantity             | quantity='5'                                           | yes   | epoch
+            defaults written out | price='-1' quantity='0' level='0' non_offer_price='-1' | no    | epoch
+            source has no part   | input_source='1' delivery_type='1'                     | no    | epoch
+            date                 | end_offer_date='2030-05-01T12:30:00'                   | yes   | 2030-05-01T12:30:00
+            date in words        | end_offer_date='1. Mai 2030'                           | yes   |
+            no such day          | end_offer_date='2030-02-30T00:00:00'                   | yes   |
+        )");
+    }
 
-    QVERIFY(VelDiscountLimit() == limit(0, 0, -1, 0, false));
-    const VelDiscountLimit band = limit(3, 10, 19, 2, true);
-    QVERIFY(VelDiscountLimit(band, DISCOUNT_MODEL_UNDEFINED) == band);
-    QVERIFY(VelDiscountLimit(band, DISCOUNT_MODEL_BULK) == limit(1, 10, 19, 2, true));
-}
+    void validity()
+    {
+        const VelTarmPriceValue value = valueOf(cell("attributes"));
+        QCOMPARE(value.isValid(), answer("valid"));
+        if (cell("end") == QStringLiteral("epoch"))
+            QCOMPARE(value.endOfferDate(), QDateTime::fromTime_t(0));
+        else
+            QCOMPARE(value.endOfferDate().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")), cell("end"));
+    }
 
-void PriceValueTest::validity_data()
-{
-    readTable(R"(
-        row                  | attributes                                             | valid | end
-        nothing              |                                                        | no    | epoch
-        type B               | type='B'                                               | no    | epoch
-        type b               | type='b'                                               | yes   | epoch
-        quantity             | quantity='5'                                           | yes   | epoch
-        defaults written out | price='-1' quantity='0' level='0' non_offer_price='-1' | no    | epoch
-        source has no part   | input_source='1' delivery_type='1'                     | no    | epoch
-        date                 | end_offer_date='2030-05-01T12:30:00'                   | yes   | 2030-05-01T12:30:00
-        date in words        | end_offer_date='1. Mai 2030'                           | yes   |
-        no such day          | end_offer_date='2030-02-30T00:00:00'                   | yes   |
-    )");
-}
+    void invalidPrice()
+    {
+        const VelTarmPriceValue* invalid = VelTarmPriceValue::invalidPrice();
+        QVERIFY(!invalid->isValid());
+        QCOMPARE(invalid->price(), -1);
+        QCOMPARE(invalid->baseTransferPrice(), 0);
+        QCOMPARE(invalid->unitTransferPrice(), 0);
+        QCOMPARE(invalid->nonOfferPrice(), -1);
+        QCOMPARE(invalid->endOfferDate(), QDateTime::fromTime_t(0));
+        QVERIFY(invalid->discountLimit() == limit(1, 0, -1, 0, true));
+        QCOMPARE(invalid->lowerLimit(), 0);
+        QCOMPARE(invalid->upperLimit(), -1);
+        QCOMPARE(invalid->discountLevel(), 0);
+        QVERIFY(invalid->isPackagePrice());
 
-void PriceValueTest::validity()
-{
-    const VelTarmPriceValue value = valueOf(cell("attributes"));
-    QCOMPARE(value.isValid(), answer("valid"));
-    if (cell("end") == QStringLiteral("epoch"))
-        QCOMPARE(value.endOfferDate(), QDateTime::fromTime_t(0));
-    else
-        QCOMPARE(value.endOfferDate().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")), cell("end"));
-}
+        // The upper limit takes part: an empty entry below another band is not the invalid price.
+        VelTarmPriceValue empty{QDomElement()};
+        QVERIFY(!empty.isValid());
+        empty.setUpperLimit(9);
+        QCOMPARE(empty.upperLimit(), 9);
+        QVERIFY(empty.isValid());
+    }
 
-void PriceValueTest::invalidPrice()
-{
-    const VelTarmPriceValue* invalid = VelTarmPriceValue::invalidPrice();
-    QVERIFY(!invalid->isValid());
-    QCOMPARE(invalid->price(), -1);
-    QCOMPARE(invalid->baseTransferPrice(), 0);
-    QCOMPARE(invalid->unitTransferPrice(), 0);
-    QCOMPARE(invalid->nonOfferPrice(), -1);
-    QCOMPARE(invalid->endOfferDate(), QDateTime::fromTime_t(0));
-    QVERIFY(invalid->discountLimit() == limit(1, 0, -1, 0, true));
-    QCOMPARE(invalid->lowerLimit(), 0);
-    QCOMPARE(invalid->upperLimit(), -1);
-    QCOMPARE(invalid->discountLevel(), 0);
-    QVERIFY(invalid->isPackagePrice());
-
-    // The upper limit takes part: an empty entry below another band is not the invalid price.
-    VelTarmPriceValue empty{QDomElement()};
-    QVERIFY(!empty.isValid());
-    empty.setUpperLimit(9);
-    QCOMPARE(empty.upperLimit(), 9);
-    QVERIFY(empty.isValid());
-}
-
-void PriceValueTest::everyFieldCountsInEquality()
-{
-    const QStringList attributes =
-        QStringLiteral("price='6'|transfer_unit_price='1'|transfer_base_price='1'|non_offer_price='9'|quantity='1'|"
-                       "end_offer_date='2030-05-01T12:30:00'|end_offer_date='2030-05-01T12:30:01'|level='1'|type='b'|"
-                       "type='P'")
-            .split(QLatin1Char('|'));
-    for (int i = 0; i < attributes.size(); ++i) {
-        for (int j = 0; j < attributes.size(); ++j) {
-            const VelTarmPriceValue one = valueOf(attributes.at(i));
-            const VelTarmPriceValue other = valueOf(attributes.at(j));
-            QCOMPARE(one == other, i == j);
-            QCOMPARE(one != other, i != j);
-            QCOMPARE(one == &other, i == j); // the pointer overloads compare what is pointed to
-            QCOMPARE(one != &other, i != j);
+    void everyFieldCountsInEquality()
+    {
+        const QStringList attributes =
+            QStringLiteral(
+                "price='6'|transfer_unit_price='1'|transfer_base_price='1'|non_offer_price='9'|quantity='1'|"
+                "end_offer_date='2030-05-01T12:30:00'|end_offer_date='2030-05-01T12:30:01'|level='1'|type='b'|"
+                "type='P'")
+                .split('|');
+        for (int i = 0; i < attributes.size(); ++i) {
+            for (int j = 0; j < attributes.size(); ++j) {
+                const VelTarmPriceValue one = valueOf(attributes.at(i));
+                const VelTarmPriceValue other = valueOf(attributes.at(j));
+                QCOMPARE(one == other, i == j);
+                QCOMPARE(one != other, i != j);
+                QCOMPARE(one == &other, i == j); // the pointer overloads compare what is pointed to
+                QCOMPARE(one != &other, i != j);
+            }
         }
     }
-}
+};
 
 VEL_TEST_MAIN(PriceValueTest)
 #include "tst_PriceValue.moc"

@@ -63,78 +63,73 @@ class KeyAccountChangeTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void toAndFro();
-    void pointersStayUsable();
-    void pricesFollowTheAccount();
-};
-
-void KeyAccountChangeTest::initTestCase()
-{
-    VelDirectoryConfig::instance()->setResourceDirectory(LARGE);
-    VelDirectoryConfig::instance()->setConfigurationDirectory(LARGE);
-    qInstallMessageHandler(countMessage);
-    activate(LARGE);
-    VelTarmInitializer().setupModule();
-}
-
-void KeyAccountChangeTest::toAndFro()
-{
-    const QStringList large = picture();
-    activate(SMALL);
-    const QStringList small = picture();
-    QVERIFY(small != large);
-    const int productCount = VelProductRegistry::instance()->productList().size();
-    QSignalSpy loads(VelProductRegistry::instance(), SIGNAL(priceListUpdated()));
-    QSignalSpy changes(VelOrderingDetails::instance(), SIGNAL(changed()));
-    for (int round = 0; round < 5; ++round) {
+    void initTestCase()
+    {
+        VelDirectoryConfig::instance()->setResourceDirectory(LARGE);
+        VelDirectoryConfig::instance()->setConfigurationDirectory(LARGE);
+        qInstallMessageHandler(countMessage);
         activate(LARGE);
-        QCOMPARE(picture(), large);
-        activate(SMALL);
-        QCOMPARE(picture(), small);
+        VelTarmInitializer().setupModule();
     }
-    QCOMPARE(loads.count(), 10);
-    QCOMPARE(changes.count(), 10);
-    QCOMPARE(VelProductRegistry::instance()->productList().size(), productCount);
-    QCOMPARE(ourMessages, QStringList());
-}
 
-void KeyAccountChangeTest::pointersStayUsable()
-{
-    activate(LARGE);
-    VelProductRegistry* registry = VelProductRegistry::instance();
-    const QList<VelProductAbstract*> products = registry->productList();
-    const VelProductAbstract* onlyLarge = registry->productWithArticleID(102);
-    const VelProductAbstract* transfer = registry->transferProduct(7);
-    const VelTarmShippingGroup* group = VelTarmShippingGroupManager::instance()->shippingGroup(2);
-    const VelOrderingDetailItem* item = VelOrderingDetails::instance()->orderingDetails().first();
-    const QString groupName = group->name();
-    const QString itemName = item->name();
+    void toAndFro()
+    {
+        const QStringList large = picture();
+        activate(SMALL);
+        const QStringList small = picture();
+        QVERIFY(small != large);
+        const int productCount = VelProductRegistry::instance()->productList().size();
+        QSignalSpy loads(VelProductRegistry::instance(), SIGNAL(priceListUpdated()));
+        QSignalSpy changes(VelOrderingDetails::instance(), SIGNAL(changed()));
+        for (int round = 0; round < 5; ++round) {
+            activate(LARGE);
+            QCOMPARE(picture(), large);
+            activate(SMALL);
+            QCOMPARE(picture(), small);
+        }
+        QCOMPARE(loads.count(), 10);
+        QCOMPARE(changes.count(), 10);
+        QCOMPARE(VelProductRegistry::instance()->productList().size(), productCount);
+        QCOMPARE(ourMessages, QStringList());
+    }
 
-    activate(SMALL);
-    for (int index = 0; index < products.size(); ++index)
-        QCOMPARE(registry->productList().at(index), products.at(index));
-    QVERIFY(onlyLarge->isDeprecated() && !onlyLarge->isOrderable());
-    QCOMPARE(onlyLarge->name(), QStringLiteral("10x13 glänzend (nicht mehr lieferbar)"));
-    QCOMPARE(transfer->articleID(), 11007);
-    QVERIFY(registry->transferProduct(7) != transfer);
-    QVERIFY(!VelTarmShippingGroupManager::instance()->shippingGroup(2));
-    QCOMPARE(group->name(), groupName);
-    QCOMPARE(item->name(), itemName);
+    void pointersStayUsable()
+    {
+        activate(LARGE);
+        VelProductRegistry* registry = VelProductRegistry::instance();
+        const QList<VelProductAbstract*> products = registry->productList();
+        const VelProductAbstract* onlyLarge = registry->productWithArticleID(102);
+        const VelProductAbstract* transfer = registry->transferProduct(7);
+        const VelTarmShippingGroup* group = VelTarmShippingGroupManager::instance()->shippingGroup(2);
+        const VelOrderingDetailItem* item = VelOrderingDetails::instance()->orderingDetails().first();
+        const QString groupName = group->name();
+        const QString itemName = item->name();
 
-    activate(LARGE);
-    QVERIFY(!onlyLarge->isDeprecated() && onlyLarge->isOrderable());
-}
+        activate(SMALL);
+        for (int index = 0; index < products.size(); ++index)
+            QCOMPARE(registry->productList().at(index), products.at(index));
+        QVERIFY(onlyLarge->isDeprecated() && !onlyLarge->isOrderable());
+        QCOMPARE(onlyLarge->name(), "10x13 glänzend (nicht mehr lieferbar)");
+        QCOMPARE(transfer->articleID(), 11007);
+        QVERIFY(registry->transferProduct(7) != transfer);
+        QVERIFY(!VelTarmShippingGroupManager::instance()->shippingGroup(2));
+        QCOMPARE(group->name(), groupName);
+        QCOMPARE(item->name(), itemName);
 
-void KeyAccountChangeTest::pricesFollowTheAccount()
-{
-    activate(LARGE);
-    QCOMPARE(mailPrice(103, 50), 650); // 50 x 13
-    activate(SMALL);
-    QCOMPARE(mailPrice(103, 50), 500); // 50 x 10
-    activate(LARGE);
-    QCOMPARE(mailPrice(103, 49), 735); // 49 x 15
-}
+        activate(LARGE);
+        QVERIFY(!onlyLarge->isDeprecated() && onlyLarge->isOrderable());
+    }
+
+    void pricesFollowTheAccount()
+    {
+        activate(LARGE);
+        QCOMPARE(mailPrice(103, 50), 650); // 50 x 13
+        activate(SMALL);
+        QCOMPARE(mailPrice(103, 50), 500); // 50 x 10
+        activate(LARGE);
+        QCOMPARE(mailPrice(103, 49), 735); // 49 x 15
+    }
+};
 
 VEL_TEST_MAIN(KeyAccountChangeTest)
 #include "tst_KeyAccountChange.moc"
