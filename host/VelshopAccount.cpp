@@ -2,6 +2,7 @@
 
 #include "frame/VelChildElements.h"
 #include "frame/VelTarmInitializer.h"
+#include "host/VelshopMessages.h"
 #include "ordering/VelOrderingDetails.h"
 #include "sibling/VelDirectoryConfig.h"
 #include "sibling/VelKeyAccount.h"
@@ -15,46 +16,21 @@ namespace {
 const QString STR_CURRENCIES_FILE = QStringLiteral("currencies.xml");
 const QString STR_ISO_CODE = QStringLiteral("isocode");
 
-struct LoggedMessage
-{
-    QtMsgType myType;
-    QString myText;
-};
-
-/// While it lives, messages are kept in place of being written.
-class MessageCatcher
-{
-public:
-    MessageCatcher()
-    {
-        messages().clear();
-        myFormerHandler =
-            qInstallMessageHandler([](QtMsgType theType, const QMessageLogContext&, const QString& theText) {
-                messages().append({theType, theText});
-            });
-    }
-    ~MessageCatcher() { qInstallMessageHandler(myFormerHandler); }
-    Q_DISABLE_COPY(MessageCatcher)
-
-    /// Those of the last catcher, which it leaves behind.
-    static QList<LoggedMessage>& messages()
-    {
-        static QList<LoggedMessage> all;
-        return all;
-    }
-
-private:
-    QtMessageHandler myFormerHandler;
-};
-
 /// The document element; null, with file, line, column and reason in the error, for a document that can't be read. The
-/// library takes such a one for empty, but a person at a desk wants to know. The loader's own message tells all.
+/// library takes such a one for empty, but a person at a desk wants to know. The loader's own message tells the place.
 QDomElement readDocument(const QFileInfo& theDocument, QString& theError)
 {
-    const MessageCatcher catcher;
+    if (!theDocument.isFile()) {
+        theError = QStringLiteral("%1: there is no such file").arg(theDocument.filePath());
+        return QDomElement();
+    }
+    VelshopMessages::drop();
     const QDomElement root = VelXMLLoader::loadDocumentElement(theDocument);
     if (root.isNull())
-        theError = MessageCatcher::messages().last().myText.section(QStringLiteral(" -- "), 1);
+        theError = VelshopMessages::last().section(QStringLiteral(" -- "), 1);
+    if (root.isNull() && theError.isEmpty()) // the log may be filtered
+        theError = QStringLiteral("%1: can't be read").arg(theDocument.filePath());
+    VelshopMessages::drop();
     return root;
 }
 
@@ -81,13 +57,6 @@ bool canPrintMoney(const QFileInfo& theFile, const QDomElement& theCurrencies, Q
     return false;
 }
 
-/// The library's messages wait until it is sure that the account can be used: an error is told in one line.
-void startLibrary()
-{
-    const MessageCatcher catcher;
-    VelTarmInitializer().setupModule();
-}
-
 } // namespace
 
 bool openAccount(const QString& theFolder, QString& theError)
@@ -103,10 +72,6 @@ bool openAccount(const QString& theFolder, QString& theError)
     const QDomElement currencies = readDocument(currenciesFile, theError);
     if (currencies.isNull())
         return false;
-    startLibrary();
-    if (!canPrintMoney(currenciesFile, currencies, theError))
-        return false;
-    for (const LoggedMessage& message : MessageCatcher::messages())
-        qt_message_output(message.myType, QMessageLogContext(), message.myText);
-    return true;
+    VelTarmInitializer().setupModule();
+    return canPrintMoney(currenciesFile, currencies, theError);
 }

@@ -3,16 +3,22 @@
 #include "host/VelshopWords.h"
 
 #include <QCommandLineParser>
+#include <QRegularExpression>
 #include <QVector>
+
+#include <limits>
 
 namespace {
 
+const QString STR_HELP = QStringLiteral("help");
 const QString STR_ACCOUNT = QStringLiteral("account");
 const QString STR_JSON = QStringLiteral("json");
 const QString STR_LANGUAGE = QStringLiteral("language");
 const QString STR_GROUP = QStringLiteral("group");
 const QString STR_SOURCE = QStringLiteral("source");
 const QString STR_DELIVERY = QStringLiteral("delivery");
+
+const int LOWEST_ID = std::numeric_limits<int>::min();
 
 const QString STR_DESCRIPTION = QStringLiteral(
     "The order desk of a shop for photo products.\n\n"
@@ -29,11 +35,13 @@ const QString STR_DESCRIPTION = QStringLiteral(
 void declareOptions(QCommandLineParser& theParser)
 {
     theParser.setApplicationDescription(STR_DESCRIPTION);
-    theParser.addHelpOption();
+    theParser.addOption({{QStringLiteral("h"), STR_HELP}, QStringLiteral("Print this help.")});
     theParser.addVersionOption();
     theParser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("list, price, shop or types"));
     theParser.addOptions({
-        {STR_ACCOUNT, QStringLiteral("Folder of the key account with pricelist.xml and orderingdetails.xml."),
+        {STR_ACCOUNT,
+         QStringLiteral("Folder of the key account: pricelist.xml, orderingdetails.xml, currencies.xml, and where it "
+                        "has them appearance.xml and icons/payment/filenames.xml."),
          QStringLiteral("DIR"), QStringLiteral(VELSHOP_SAMPLE_ACCOUNT)},
         {STR_JSON, QStringLiteral("Print JSON.")},
         {STR_LANGUAGE, QStringLiteral("Language of the customer texts: de (default) or en."), QStringLiteral("CODE"),
@@ -79,7 +87,7 @@ bool readOrderSource(const QCommandLineParser& theParser, VelshopArguments& theA
 bool readPriceArguments(const QCommandLineParser& theParser, VelshopArguments& theArguments, QString& theError)
 {
     const QStringList words = theParser.positionalArguments();
-    return readNumber(words.at(1), QStringLiteral("ARTICLE"), 0, theArguments.myArticle, theError) &&
+    return readNumber(words.at(1), QStringLiteral("ARTICLE"), LOWEST_ID, theArguments.myArticle, theError) &&
            readNumber(words.at(2), QStringLiteral("COUNT"), 1, theArguments.myCount, theError) &&
            readOrderSource(theParser, theArguments, theError);
 }
@@ -88,7 +96,7 @@ bool readListArguments(const QCommandLineParser& theParser, VelshopArguments& th
 {
     theArguments.myHasGroup = theParser.isSet(STR_GROUP);
     return !theArguments.myHasGroup ||
-           readNumber(theParser.value(STR_GROUP), QStringLiteral("--group"), 0, theArguments.myGroup, theError);
+           readNumber(theParser.value(STR_GROUP), QStringLiteral("--group"), LOWEST_ID, theArguments.myGroup, theError);
 }
 
 /// How a command reads its own arguments, how many words it takes behind its name, and which options belong to it.
@@ -144,6 +152,26 @@ bool readCommand(const QCommandLineParser& theParser, VelshopArguments& theArgum
     return false;
 }
 
+/// A word like "-5" would be taken for an option and called unknown.
+bool hasNegativeWord(const QStringList& theCommandLine, QString& theError)
+{
+    static const QRegularExpression negative(QStringLiteral("^-\\d+$"));
+    const int end = theCommandLine.indexOf(QStringLiteral("--"));
+    const int index = theCommandLine.indexOf(negative);
+    if (index < 0 || (end >= 0 && end < index))
+        return false;
+    theError = QStringLiteral("a number below 0 has to stand behind \"--\": %1").arg(theCommandLine.at(index));
+    return true;
+}
+
+bool readAccount(const QCommandLineParser& theParser, VelshopArguments& theArguments, QString& theError)
+{
+    theArguments.myAccount = theParser.value(STR_ACCOUNT);
+    if (theArguments.myAccount.isEmpty())
+        theError = QStringLiteral("--account names no folder");
+    return !theArguments.myAccount.isEmpty();
+}
+
 bool readLanguage(const QCommandLineParser& theParser, VelshopArguments& theArguments, QString& theError)
 {
     theArguments.myLanguage = theParser.value(STR_LANGUAGE);
@@ -160,15 +188,17 @@ bool readArguments(const QStringList& theCommandLine, VelshopArguments& theArgum
 {
     QCommandLineParser parser;
     declareOptions(parser);
+    if (hasNegativeWord(theCommandLine, theError))
+        return false;
     if (!parser.parse(theCommandLine)) {
         theError = parser.errorText();
         return false;
     }
-    if (parser.isSet(QStringLiteral("help")))
+    if (parser.isSet(STR_HELP))
         parser.showHelp();
     if (parser.isSet(QStringLiteral("version")))
         parser.showVersion();
-    theArguments.myAccount = parser.value(STR_ACCOUNT);
     theArguments.myIsJson = parser.isSet(STR_JSON);
-    return readLanguage(parser, theArguments, theError) && readCommand(parser, theArguments, theError);
+    return readAccount(parser, theArguments, theError) && readLanguage(parser, theArguments, theError) &&
+           readCommand(parser, theArguments, theError);
 }

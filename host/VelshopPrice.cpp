@@ -27,20 +27,26 @@ struct PricedLine
     VelDiscountLimit myBand;
 };
 
-/// The halves that the command line names, completed by the shop's starting choice; a kiosk and delivery on site bring
-/// each other along.
+bool isOnSite(const VelOrderSource& theSource)
+{
+    return theSource.inputSource() == INPUT_SOURCE_KIOSK || theSource.deliveryType() == DELIVERY_TYPE_ON_SITE;
+}
+
+/// The halves that the command line names, completed by the shop's starting choice. A kiosk and delivery on site bring
+/// each other along; where the starting choice is on site or wild, the net and mail order take its place.
 VelOrderSource orderSource(const VelshopArguments& theArguments)
 {
-    const VelOrderSource start = VelTarmGlobalStatus::instance()->orderSource();
-    VelInputSource inputSource = theArguments.myInputSource;
-    VelDeliveryType deliveryType = theArguments.myDeliveryType;
-    if (inputSource == INPUT_SOURCE_ANY && deliveryType == DELIVERY_TYPE_ANY)
-        return start;
-    if (inputSource == INPUT_SOURCE_ANY)
-        inputSource = deliveryType == DELIVERY_TYPE_ON_SITE ? INPUT_SOURCE_KIOSK : INPUT_SOURCE_NET;
-    if (deliveryType == DELIVERY_TYPE_ANY)
-        deliveryType = inputSource == INPUT_SOURCE_KIOSK ? DELIVERY_TYPE_ON_SITE : DELIVERY_TYPE_MAILORDER;
-    return VelOrderSource(inputSource, deliveryType);
+    const VelOrderSource named(theArguments.myInputSource, theArguments.myDeliveryType);
+    const bool namesNone = named == VelOrderSource(INPUT_SOURCE_ANY, DELIVERY_TYPE_ANY);
+    VelOrderSource other = VelTarmGlobalStatus::instance()->orderSource();
+    if (namesNone)
+        return other;
+    if (isOnSite(named))
+        other = VelOrderSource::kioskOnSite();
+    else if (isOnSite(other) || other.inputSource() < 0 || other.deliveryType() < 0)
+        other = VelOrderSource::onlineMailOrder();
+    return VelOrderSource(named.inputSource() == INPUT_SOURCE_ANY ? other.inputSource() : named.inputSource(),
+                          named.deliveryType() == DELIVERY_TYPE_ANY ? other.deliveryType() : named.deliveryType());
 }
 
 PricedLine pricedLine(const VelTarmBillPositionAbstract* thePosition, const VelOrderSource& theSource)
@@ -66,7 +72,7 @@ bool isTooLarge(const QList<PricedLine>& theLines)
     qint64 sum = 0;
     for (const PricedLine& line : theLines)
         sum += static_cast<qint64>(line.myPosition->unitPrice()) * line.myPosition->unitCount();
-    return sum > std::numeric_limits<int>::max();
+    return sum > std::numeric_limits<int>::max() || sum < std::numeric_limits<int>::min();
 }
 
 QString bandText(const PricedLine& theLine)
@@ -85,7 +91,7 @@ QString lineText(const PricedLine& theLine)
     QString text = QStringLiteral("  %1 x %2 = %3")
                        .arg(position.unitCount())
                        .arg(VelshopWords::money(position.unitPrice()), VelshopWords::money(position.positionPrice()));
-    if (position.isPackage())
+    if (position.isPackage() || position.unitCount() != position.countItems())
         text += QStringLiteral(" for a package with %1 pieces").arg(position.countItems());
     text += QStringLiteral("; model %1, level %2%3")
                 .arg(VelshopWords::discountModel(position.discountModel()))
@@ -180,7 +186,7 @@ int priceArticle(const VelshopArguments& theArguments, QTextStream& theOutput, Q
     const int amount = product->priceFor(status.priceKey(), theArguments.myCount, 0, &bill, nullptr);
     const PricedArticle article{product, theArguments.myCount, source, amount, pricedLines(bill, source)};
     if (isTooLarge(article.myLines)) {
-        theError = headText(article) + QStringLiteral(": the amount is beyond 2147483647 cents");
+        theError = headText(article) + QStringLiteral(": the amount is beyond what 32 bits of cents can hold");
         return EXIT_BAD_INPUT;
     }
     print(article, theArguments.myIsJson, theOutput);

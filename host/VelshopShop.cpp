@@ -18,6 +18,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTextStream>
+#include <QtNumeric>
 
 namespace {
 
@@ -54,12 +55,16 @@ QJsonObject payment(const VelOrderingDetailItem* theItem)
             {QStringLiteral("blockable"), theItem->canBeBlockedForDefaultingUsers()}};
 }
 
-QString nameOfPayment(const VelOrderSource& theSource, VelPaymentType thePayment)
+/// All items of a payment type that the order way permits; a type without an item stands for itself.
+QJsonArray paymentsOfType(const VelOrderSource& theSource, VelPaymentType thePayment)
 {
+    QJsonArray payments;
     for (const VelOrderingDetailItem* item : VelOrderingDetails::instance()->orderingDetails(theSource))
         if (item->paymentType() == thePayment)
-            return item->name();
-    return QStringLiteral("payment %1").arg(thePayment);
+            payments.append(payment(item));
+    if (payments.isEmpty())
+        payments.append(QJsonObject{{STR_TYPE, thePayment}, {STR_NAME, QStringLiteral("payment %1").arg(thePayment)}});
+    return payments;
 }
 
 QJsonArray orderWays()
@@ -68,8 +73,9 @@ QJsonArray orderWays()
     QJsonArray ways;
     for (const VelOrderSource& source : details->availableOrderSources()) {
         QJsonArray payments;
-        for (const VelOrderingDetailItem* item : details->orderingDetails(source))
-            payments.append(payment(item));
+        for (const VelPaymentType type : details->availablePayments(source))
+            for (const QJsonValue& payment : paymentsOfType(source, type))
+                payments.append(payment);
         ways.append(QJsonObject{{STR_WAY, VelshopWords::orderSource(source)},
                                 {STR_ENABLED, details->orderSourceEnabled(source)},
                                 {STR_PAYMENTS, payments}});
@@ -77,12 +83,17 @@ QJsonArray orderWays()
     return ways;
 }
 
+/// Without any order way there is no payment to start with.
 QJsonObject start()
 {
     const VelTarmGlobalStatus* status = VelTarmGlobalStatus::instance();
+    const QJsonValue payment =
+        status->payment() == PAYMENT_TYPE_UNKNOWN
+            ? QJsonValue()
+            : paymentsOfType(status->orderSource(), status->payment()).first().toObject().value(STR_NAME);
     return {{STR_WAY, VelshopWords::orderSource(status->orderSource())},
             {STR_TYPE, status->payment()},
-            {STR_PAYMENT, nameOfPayment(status->orderSource(), status->payment())}};
+            {STR_PAYMENT, payment}};
 }
 
 QJsonObject currency(bool theSecondary)
@@ -93,11 +104,25 @@ QJsonObject currency(bool theSecondary)
             {STR_SAMPLE, config->fullText(SAMPLE_AMOUNT, true, false, theSecondary)}};
 }
 
+/// The library prints a secondary currency that the file doesn't define as the primary one; that is not shown as if it
+/// were right, nor is a factor that is no number.
+QJsonObject secondaryCurrency()
+{
+    const VelOrderingDetails* details = VelOrderingDetails::instance();
+    const bool isDefined = VelCurrencyConfig::instance()->currency(true)->isoCode() == details->secondaryCurrency();
+    if (isDefined && qIsFinite(details->secondaryCurrencyFactor()))
+        return currency(true);
+    return {{STR_ISO_CODE, details->secondaryCurrency()},
+            {STR_NAME, QString()},
+            {STR_SAMPLE,
+             isDefined ? QStringLiteral("has no usable factor") : QStringLiteral("is not defined in currencies.xml")}};
+}
+
 QJsonArray currencies()
 {
     QJsonArray array{currency(false)};
     if (VelOrderingDetails::instance()->hasSecondaryCurrency())
-        array.append(currency(true));
+        array.append(secondaryCurrency());
     return array;
 }
 
@@ -178,8 +203,8 @@ void printOrderWays(const QJsonObject& theConditions, QTextStream& theOutput)
                   << (way.value(STR_ENABLED).toBool() ? "" : " (not enabled)") << '\n';
     }
     const QJsonObject start = theConditions.value(STR_START).toObject();
-    theOutput << "  Starts with " << start.value(STR_WAY).toString() << ", " << start.value(STR_PAYMENT).toString()
-              << "\n\n";
+    theOutput << "  Starts with " << start.value(STR_WAY).toString() << ", "
+              << start.value(STR_PAYMENT).toString(QStringLiteral("no payment")) << "\n\n";
 }
 
 void printCurrencies(const QJsonObject& theConditions, QTextStream& theOutput)
@@ -187,7 +212,10 @@ void printCurrencies(const QJsonObject& theConditions, QTextStream& theOutput)
     theOutput << "Currencies\n";
     for (const QJsonValue& value : theConditions.value(STR_CURRENCIES).toArray()) {
         const QJsonObject currency = value.toObject();
-        theOutput << "  " << currency.value(STR_ISO_CODE).toString() << " " << currency.value(STR_NAME).toString()
+        theOutput << "  "
+                  << QStringLiteral("%1 %2")
+                         .arg(currency.value(STR_ISO_CODE).toString(), currency.value(STR_NAME).toString())
+                         .trimmed()
                   << ": " << currency.value(STR_SAMPLE).toString() << '\n';
     }
     theOutput << '\n';

@@ -7,7 +7,6 @@
 #include "product/VelPageOrganizationCalculatorTarm.h"
 #include "product/VelProductPrintFun.h"
 #include "product/VelProductRegistry.h"
-#include "product/VelProductSet.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -24,6 +23,11 @@ QStringList typeNames()
         if (product->isPrintFunProduct() && !names.contains(product->orderTxtType()))
             names.append(product->orderTxtType());
     return names;
+}
+
+VelProductList productsOf(const VelProductType& theType)
+{
+    return VelProductRegistry::instance()->findProductListWithOrderTxtType(theType.productName());
 }
 
 /// The pages of the type's book; all 0 when it has no book of its own, or more than one.
@@ -44,7 +48,7 @@ QString pagesText(const VelPageCountOrganization& thePages)
 QJsonObject toJson(const VelProductType& theType)
 {
     QJsonArray products;
-    for (const VelProductAbstract* product : VelProductSet(theType).collectProducts(theType))
+    for (const VelProductAbstract* product : productsOf(theType))
         products.append(QJsonObject{{QStringLiteral("id"), product->articleID()},
                                     {QStringLiteral("name"), product->name()},
                                     {QStringLiteral("scale"), product->orderTxtScale()}});
@@ -61,10 +65,10 @@ QJsonObject toJson(const VelProductType& theType)
 
 void addRows(const VelProductType& theType, VelshopTable& theTable)
 {
-    for (const VelProductAbstract* product : VelProductSet(theType).collectProducts(theType))
+    const QString pages = pagesText(pagesOf(theType));
+    for (const VelProductAbstract* product : productsOf(theType))
         theTable.add({theType.productName(), VelshopWords::productClass(theType.productClass()),
-                      product->orderTxtScale(), QString::number(product->articleID()), product->name(),
-                      pagesText(pagesOf(theType))});
+                      product->orderTxtScale(), QString::number(product->articleID()), product->name(), pages});
 }
 
 } // namespace

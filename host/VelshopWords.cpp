@@ -17,12 +17,14 @@ const QVector<Word<VelInputSource>> INPUT_SOURCES = {
     {"NET", INPUT_SOURCE_NET},
     {"CD", INPUT_SOURCE_CD},
     {"KIOSK", INPUT_SOURCE_KIOSK},
+    {"ANY", INPUT_SOURCE_ANY},
 };
 
 const QVector<Word<VelDeliveryType>> DELIVERY_TYPES = {
     {"POS", DELIVERY_TYPE_POS},
     {"MAIL", DELIVERY_TYPE_MAILORDER},
     {"ONSITE", DELIVERY_TYPE_ON_SITE},
+    {"ANY", DELIVERY_TYPE_ANY},
 };
 
 const QVector<Word<VelDiscountModel>> DISCOUNT_MODELS = {
@@ -86,12 +88,12 @@ QString wordOf(const QVector<Word<Value>>& theWords, Value theValue)
 
 bool VelshopWords::readInputSource(const QString& theWord, VelInputSource& theInputSource)
 {
-    return readWord(INPUT_SOURCES, theWord, theInputSource);
+    return readWord(INPUT_SOURCES, theWord, theInputSource) && theInputSource != INPUT_SOURCE_ANY;
 }
 
 bool VelshopWords::readDeliveryType(const QString& theWord, VelDeliveryType& theDeliveryType)
 {
-    return readWord(DELIVERY_TYPES, theWord, theDeliveryType);
+    return readWord(DELIVERY_TYPES, theWord, theDeliveryType) && theDeliveryType != DELIVERY_TYPE_ANY;
 }
 
 QString VelshopWords::orderSource(const VelOrderSource& theOrderSource)

@@ -2,6 +2,7 @@
 #include "host/VelshopArguments.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopList.h"
+#include "host/VelshopMessages.h"
 #include "host/VelshopPrice.h"
 #include "host/VelshopShop.h"
 #include "host/VelshopTypes.h"
@@ -10,19 +11,40 @@
 #include <QTextStream>
 #include <QTranslator>
 
+#include <cstdio>
+
 namespace {
 
-int runCommand(const VelshopArguments& theArguments, QString& theError)
+int runCommand(const VelshopArguments& theArguments, QTextStream& theOutput, QString& theError)
+{
+    if (theArguments.myCommand == QLatin1String("list"))
+        return listArticles(theArguments, theOutput, theError);
+    if (theArguments.myCommand == QLatin1String("price"))
+        return priceArticle(theArguments, theOutput, theError);
+    if (theArguments.myCommand == QLatin1String("shop"))
+        return showShop(theArguments, theOutput);
+    return listTypes(theArguments, theOutput);
+}
+
+/// Runs the command and makes sure that its answer reached the output.
+int answer(const VelshopArguments& theArguments, QString& theError)
 {
     QTextStream output(stdout);
     output.setCodec("UTF-8");
-    if (theArguments.myCommand == QLatin1String("list"))
-        return listArticles(theArguments, output, theError);
-    if (theArguments.myCommand == QLatin1String("price"))
-        return priceArticle(theArguments, output, theError);
-    if (theArguments.myCommand == QLatin1String("shop"))
-        return showShop(theArguments, output);
-    return listTypes(theArguments, output);
+    const int exitCode = runCommand(theArguments, output, theError);
+    output.flush();
+    if (output.status() == QTextStream::Ok && fflush(stdout) == 0)
+        return exitCode;
+    theError = QStringLiteral("the answer can't be written");
+    return EXIT_BAD_INPUT;
+}
+
+/// One line, whatever stands in a document's names.
+void writeError(const QString& theError)
+{
+    QTextStream errors(stderr);
+    errors.setCodec("UTF-8");
+    errors << "velshop: " << QString(theError).replace(QLatin1Char('\n'), QLatin1Char(' ')) << '\n';
 }
 
 /// The texts stand in German; any other language needs a translation.
@@ -40,6 +62,8 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationName(QStringLiteral("velshop"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VELSHOP_VERSION));
 
+    VelshopMessages::holdBack();
+
     VelshopArguments arguments;
     QString error;
     int exitCode = EXIT_BAD_INPUT;
@@ -47,12 +71,11 @@ int main(int argc, char* argv[])
     if (readArguments(QCoreApplication::arguments(), arguments, error)) {
         installLanguage(translator, arguments.myLanguage);
         if (openAccount(arguments.myAccount, error))
-            exitCode = runCommand(arguments, error);
+            exitCode = answer(arguments, error);
     }
-    if (!error.isEmpty()) {
-        QTextStream errors(stderr);
-        errors.setCodec("UTF-8");
-        errors << "velshop: " << error << '\n';
-    }
+    if (exitCode != EXIT_BAD_INPUT)
+        VelshopMessages::write();
+    if (!error.isEmpty())
+        writeError(error);
     return exitCode;
 }

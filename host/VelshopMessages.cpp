@@ -1,0 +1,38 @@
+#include "host/VelshopMessages.h"
+
+#include <QStringList>
+#include <QTextStream>
+
+namespace {
+
+QStringList& messages()
+{
+    static QStringList kept;
+    return kept;
+}
+
+} // namespace
+
+void VelshopMessages::holdBack()
+{
+    qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& theText) { messages().append(theText); });
+}
+
+QString VelshopMessages::last()
+{
+    return messages().isEmpty() ? QString() : messages().last();
+}
+
+void VelshopMessages::drop()
+{
+    messages().clear();
+}
+
+void VelshopMessages::write()
+{
+    QTextStream errors(stderr);
+    errors.setCodec("UTF-8");
+    for (const QString& message : qAsConst(messages()))
+        errors << message << '\n';
+}
