@@ -25,7 +25,7 @@ public:
     static VelCurrencyConfig* instance();
 
     /// The secondary currency when it is asked for and there is one, otherwise the primary; null when the file doesn't
-    /// hold that one. Owned by the configuration's file, alive for ever.
+    /// hold that one. Owned by the configuration, alive for ever.
     VelCurrency* currency(bool theSecondary) const;
 
     /// The currency of an ISO code; null, with a warning, for an unknown one.

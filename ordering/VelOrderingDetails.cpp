@@ -2,6 +2,7 @@
 
 #include "frame/EnumHelper.h"
 #include "frame/VelChildElements.h"
+#include "frame/VelGuardedDocument.h"
 #include "frame/VelGuardedInstance.h"
 #include "ordering/VelOrderingDetailItem.h"
 #include "ordering/VelTarmShippingGroup.h"
@@ -15,7 +16,6 @@
 
 #include <QDomDocument>
 #include <QFile>
-#include <QXmlStreamReader>
 
 #include <algorithm>
 #include <cmath>
@@ -52,7 +52,6 @@ const int ID_ONLINE_TRANSFER_METHODS = 9;
 const int ID_ONLINE_TRANSFER_METHODS_IN_NAMES = 4;
 const int SHIPPING_GROUP_ON_SITE = 23;
 const unsigned int SUPPORTED_PAYMENT_TYPES = 0xD70F; // 0 to 3, 8, 9, 10, 12, 14 and 15, by bit
-const int MAX_ICON_FILE_NESTING = 256;
 
 QString generalPackageDescription()
 {
@@ -63,25 +62,6 @@ QString generalPackageDescription()
 double reciprocal(double theDivisor)
 {
     return theDivisor == 0 ? std::copysign(std::numeric_limits<double>::infinity(), theDivisor) : 1.0 / theDivisor;
-}
-
-/// QDomDocument works on nested elements and on the declarations of a document type by recursion, so that a hostile
-/// file would overflow the stack; this reader doesn't.
-bool isHarmlessXml(const QByteArray& theBytes)
-{
-    QXmlStreamReader reader(theBytes);
-    reader.setNamespaceProcessing(false);
-    int nesting = 0;
-    while (!reader.atEnd() && nesting <= MAX_ICON_FILE_NESTING) {
-        reader.readNext();
-        if (reader.isStartElement())
-            ++nesting;
-        else if (reader.isEndElement())
-            --nesting;
-        else if (reader.isDTD() && reader.text().contains(QLatin1Char('[')))
-            return false;
-    }
-    return nesting == 0 && !reader.hasError();
 }
 
 } // namespace
@@ -117,7 +97,8 @@ bool VelOrderingDetails::initIconNames(const QString& theFileName)
     const QByteArray bytes = file.readAll();
     file.close();
     QDomDocument document(STR_PAYMENT);
-    if (!isHarmlessXml(bytes) || !document.setContent(bytes, false))
+    VelGuardedDocument::Refusal refusal; // not told: a missing or broken icon file goes without a message
+    if (!VelGuardedDocument::setContent(document, bytes, refusal))
         return false;
     for (const QDomElement& method : VelChildElements(document.documentElement(), STR_METHOD))
         myIconNames[VelXMLParser::attribute(method, STR_NAME, QString())] =
@@ -141,7 +122,8 @@ bool VelOrderingDetails::supportsImageExport(VelImageExportTypeEnum theType) con
 
 QString VelOrderingDetails::billPositionDescriptionEach(VelDiscountModel theModel) const
 {
-    return mySingleDescriptions.value(theModel); // meant so: a model without a wording has no general one here
+    return mySingleDescriptions.value(
+        theModel, QStringLiteral("")); // meant so: a model without a wording has no general one here
 }
 
 QString VelOrderingDetails::billPositionDescriptionPackage(VelDiscountModel theModel) const

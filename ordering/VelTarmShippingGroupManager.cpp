@@ -28,7 +28,7 @@ VelTransferModel VelTarmShippingGroupManager::transferModel(int theId) const
 QString VelTarmShippingGroupManager::shippingGroupName(int theId) const
 {
     const VelTarmShippingGroup* group = shippingGroup(theId);
-    return group ? group->name() : QString();
+    return group ? group->name() : QStringLiteral("");
 }
 
 int VelTarmShippingGroupManager::maxOrderItems(int theId) const
