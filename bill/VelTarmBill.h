@@ -6,27 +6,66 @@
 #include "frame/VelExpressType.h"
 #include "frame/VelTarmExport.h"
 #include "frame/VelTarmStatus.h"
+#include "sibling/VelProductGroup.h"
+
+#include <QDomElement>
+#include <QMap>
 
 class VelProductAbstract;
 class VelTarmBillPosition;
 
-/// The cart of one shipping group, priced line by line. The bill owns its positions.
+/**
+ * The cart of one shipping group in money: items, transfer fee (shipping), payment agio, express agio, total. All
+ * amounts are whole cents and wrap around; -1 means that there is no price. The bill owns its positions.
+ *
+ * Products get positions when the bill is built. The transfer fee is a computed value beside them, and both agios are
+ * computed each time they are asked for; transfer and express get positions only by initDiscountInfoForXTCI().
+ *
+ * A coupon is an amount that is added, so it is zero or negative.
+ */
 class VELTARM_EXPORT VelTarmBill
 {
 public:
+    /// How transferFee() answers. The last two have a bit of the mask 6: no transfer charge.
+    enum TransferState : int {
+        TRANSFER_STATE_COMPUTE = 0,      ///< computes the fee afresh
+        TRANSFER_STATE_STORED = 1,       ///< the fee that was found when the bill was built
+        TRANSFER_STATE_FILTERED_OUT = 2, ///< no charge: the transfer article was filtered out
+        TRANSFER_STATE_FREE = 4          ///< no charge: the bill holds a position of DISCOUNT_MODEL_PACKAGE
+    };
+
+    /// One sold piece, as the description of discounts sees it.
+    struct DiscountInformation
+    {
+        VelDiscountModel discountModel;
+        int discountLevel;
+        bool isPackage;
+        int unitPrice; ///< cents for this piece; the first of a package carries all of its price, the others 0
+        bool isTransferModel2;
+        int unitTransferPrice;
+        int baseTransferPrice; ///< on the one piece that carries it, else NO_BASE_TRANSFER_PRICE
+    };
+    static const int NO_BASE_TRANSFER_PRICE = -1000000;
+
     /// Copies its arguments and prices every product of the statistic, in the statistic's order, under the status.
     VelTarmBill(int theShippingGroup, const VelOrderStatistic& theStatistic, const VelExpressType& theExpressType,
                 const VelTarmStatus& theStatus);
 
-    /// The copy has positions of its own.
+    /// The copy has positions of its own; it shares the lists of discount information.
     VelTarmBill(const VelTarmBill& theOther);
     VelTarmBill& operator=(const VelTarmBill&) = delete;
     ~VelTarmBill();
 
     int shippingGroup() const { return myShippingGroup; }
 
-    /// A copy of the list; the positions stay the bill's.
+    /// The shipping of the group, null when it has none. The ids are -1 and 0 for none.
+    VelProductAbstract* transferProduct() const;
+    int idOfTransferProduct() const;
+    int idOfPaymentAgioProduct() const;
+
+    /// A copy of the list, and one sorted by product name with numbers by value; the positions stay the bill's.
     VelTarmBillPositionList orderPositions() const { return myPositions; }
+    VelTarmBillPositionList sortedBillPositions() const;
 
     /// The first position of the product; null when there is none or when that one is invalid.
     VelTarmBillPosition* billPosition(const VelProductAbstract* theProduct) const;
@@ -34,14 +73,99 @@ public:
     /// Appends the list; the bill takes the positions over.
     void addOrderPositions(const VelTarmBillPositionList& thePositions);
 
+    /// Whether every product has a price under the bill's status.
+    bool isValid() const;
+
+    /// The sum of the positions whose product's group matches; add-ons cost, but don't count.
+    int totalItemCost(const VelProductGroup& theGroup) const;
+    int totalItemCount(const VelProductGroup& theGroup) const;
+
+    /// The lowest unit price of all positions, 0 when there is none.
+    int unitPriceOfCheapestArticle() const;
+
+    /// What the transfer fee comes to, as the transfer state says.
+    int transferFee() const;
+
+    /// The charge of the transfer article, whatever the transfer state. Its positions go to the given bill, to none
+    /// for null; the sums that it is reckoned from are always this bill's.
+    int priceOfTransfer(VelTarmBill* theBill) const;
+
+    /// The pure prices without positions, 0 in a state without transfer. Under transfer model 2 the first is the base
+    /// charge alone and the second the charge for further items.
+    int priceOfTransfer() const;
+    int priceOfUnitTransfer() const;
+
+    /// The fee of the express type for all books, calendars, cards and gifts of the bill, 0 without one. Its position
+    /// goes to the given bill, to none for null. It is always paid in full.
+    int priceOfExpressAgio(VelTarmBill* theBill) const;
+
+    /// The fee of a payment; a payment without a price costs nothing.
+    static int priceOfPaymentAgio(VelPaymentType thePayment, const VelTarmPriceKey& theKey);
+    int priceOfPaymentAgio(VelPaymentType thePayment) const;
+
+    /// The fee of the bill's own payment; a bill that comes to nothing is charged none.
+    int priceOfPaymentAgio(int theCoupon) const;
+
+    /// Whether items, transfer and coupon come to less than one cent.
+    bool totalPriceIsVoid(int theCoupon) const;
+
+    /// Items, transfer, payment agio and coupon, not below 0, and then the express agio.
+    int totalFinalCost(int theCoupon) const;
+
+    /// Items and transfer alone, not below 0.
+    int totalFinalCostWithoutCoupon() const;
+
+    /// Narrows the bill to the articles of the list; an empty list changes nothing at all. Transfer and payment are
+    /// charged only if the list holds their articles, the transfer as reckoned for the whole bill. For copies: what is
+    /// taken out of the list stays alive, owned by nobody.
+    void filterArticles(const QList<int>& theArticleIDs);
+    void filterOutPackages();
+
+    /// Writes every position to the log.
+    void dump() const;
+
+    // ---- the description of discounts: initDiscountInfoForXTCI() once, then for each product, as long as pieces are
+    // left, itemsAvailableInCurrentDiscountLevel() and describeDiscount() of so many or fewer
+
+    /// Adds the positions of transfer and express fee to the bill and unfolds all positions into pieces.
+    void initDiscountInfoForXTCI();
+
+    /// The product's list, made when there is none; it is the bill's and shared with its copies.
+    QList<DiscountInformation>* discountInformationList(const VelProductAbstract* theProduct);
+
+    /// Appends a piece. Mind that base and unit transfer price stand in another order than in the record.
+    void insertInfoDiscountInformationMap(VelProductAbstract* theProduct, VelDiscountModel theModel, int theLevel,
+                                          bool theIsPackage, int theUnitPrice, bool theIsTransferModel2,
+                                          int theBaseTransferPrice, int theUnitTransferPrice);
+
+    /// How many pieces from the front share the first one's level; 0 when none is left.
+    int itemsAvailableInCurrentDiscountLevel(VelProductAbstract* theProduct);
+
+    /// The first piece; takes so many off the front. An empty list gives a piece without price.
+    DiscountInformation nextDiscountInfo(const VelProductAbstract* theProduct, int theCount);
+
+    /// Takes so many pieces off and writes them as attributes: `discount_type` and `discount_level` when wanted,
+    /// `price`, and under transfer model 2 `transfer_base_price` and `transfer_unit_price`.
+    void describeDiscount(QDomElement& theElement, const VelProductAbstract* theProduct, int theCount,
+                          bool theWithDiscountType);
+
 private:
     void init();
+    bool isWithoutTransfer() const;
+    int itemCost() const;
+    int itemCount() const;
+    int costBeforeFees(int theCoupon) const;
+    int priceOf(const DiscountInformation& theInformation, int theCount) const;
 
     VelTarmBillPositionList myPositions;
     int myShippingGroup;
     VelTarmStatus myStatus;
     VelOrderStatistic myStatistic;
     VelExpressType myExpressType;
+    QMap<const VelProductAbstract*, QList<DiscountInformation>*> myDiscountInformation; ///< the lists are never freed
+    bool myPaymentAgioEnabled = true;
+    TransferState myTransferState = TRANSFER_STATE_COMPUTE;
+    int myStoredTransferFee = 0;
 };
 
 #endif

@@ -7,6 +7,7 @@
 #include "frame/VelTarmGlobalStatus.h"
 #include "ordering/VelTarmShippingGroupManager.h"
 #include "product/VelProductGroupConverter.h"
+#include "product/VelProductStorage.h"
 #include "sibling/VelXMLParser.h"
 
 #include <QObject>
@@ -65,6 +66,16 @@ VelProductAbstract::VelProductAbstract(const QDomElement& theElement, VelProduct
 VelProductAbstract::~VelProductAbstract()
 {
     delete myArticle;
+}
+
+void* VelProductAbstract::operator new(std::size_t theSize)
+{
+    return VelProductStorage::allocate(VelProductStorage::SHELF_MAIN_PRODUCTS, theSize);
+}
+
+void VelProductAbstract::operator delete(void* theObject, std::size_t theSize)
+{
+    VelProductStorage::release(theObject, theSize);
 }
 
 VelProductAbstract* VelProductAbstract::nullProduct()

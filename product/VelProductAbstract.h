@@ -17,6 +17,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstddef>
+
 class VelOrderStatistic;
 class VelTarmArticle;
 class VelTarmBill;
@@ -44,6 +46,10 @@ public:
     /// Reads an element of the price list; the class stays for the object's life.
     VelProductAbstract(const QDomElement& theElement, VelProductClass theProductClass);
     virtual ~VelProductAbstract();
+
+    /// Products have addresses in a fixed order, see VelProductStorage.
+    static void* operator new(std::size_t theSize);
+    static void operator delete(void* theObject, std::size_t theSize);
 
     /// True, always; the null product is no exception.
     virtual bool isValid() const { return true; }

@@ -1,6 +1,7 @@
 #include "product/VelProductAddOn.h"
 
 #include "frame/VelChildElements.h"
+#include "product/VelProductStorage.h"
 #include "sibling/VelXMLParser.h"
 
 namespace {
@@ -32,6 +33,16 @@ VelProductAddOn::VelProductAddOn(const QDomElement& theElement)
         if (articleID != NO_ARTICLE)
             myArticleIDs.append(articleID);
     }
+}
+
+void* VelProductAddOn::operator new(std::size_t theSize)
+{
+    return VelProductStorage::allocate(VelProductStorage::SHELF_ADD_ONS, theSize);
+}
+
+void VelProductAddOn::operator delete(void* theObject, std::size_t theSize)
+{
+    VelProductStorage::release(theObject, theSize);
 }
 
 bool VelProductAddOn::matches(int theArticleID, const QString& theProductClass) const

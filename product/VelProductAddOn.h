@@ -13,6 +13,10 @@ class VELTARM_EXPORT VelProductAddOn : public VelProductAbstract
 public:
     explicit VelProductAddOn(const QDomElement& theElement);
 
+    /// Add-ons have addresses above all main products, see VelProductStorage.
+    static void* operator new(std::size_t theSize);
+    static void operator delete(void* theObject, std::size_t theSize);
+
     /// The article IDs of the main products that it fits, from `linked_articles`, in document order, duplicates kept.
     const QList<int>& articleIDs() const { return myArticleIDs; }
 

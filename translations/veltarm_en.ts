@@ -19,6 +19,10 @@
         <source> (nicht mehr lieferbar)</source>
         <translation> (no longer available)</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>VelOrderingDetails</name>
