@@ -1,0 +1,93 @@
+#ifndef VELCOUPON_H
+#define VELCOUPON_H
+
+#include "frame/VelEnumerations.h"
+#include "frame/VelTarmExport.h"
+
+#include <QDomElement>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+class VelTarmBill;
+
+/**
+ * A voucher: its terms, and what it takes off a bill. A discount is a value in cents that is added to the bill, so what
+ * takes something off is negative, in the coupon's document too. A value class; bills handed in stay as they are.
+ */
+class VELTARM_EXPORT VelCoupon
+{
+public:
+    /// The coupon's code, and the element that holds its terms, see parseXML.
+    VelCoupon(const QString& theId, const QDomElement& theElement);
+
+    /// Reads the first `coupon` of `coupons`; without one all is read as missing. Called again, it adds to the valid
+    /// articles, and a `price` that the new type doesn't read keeps its former value.
+    void parseXML(const QDomElement& theElement);
+
+    /// Whether `campaign_no` was there, if only as an empty text, and the type is known. A coupon that isn't valid is
+    /// not to be used, but it computes all the same.
+    bool isValid() const;
+
+    QString id() const { return myId; }
+
+    /// Attribute `campaign_no`, null when missing.
+    QString campaign() const { return myCampaign; }
+
+    /// Attribute `type`, its words combined by OR: "value,percent" is a quantity coupon.
+    VelCouponType type() const { return myType; }
+
+    /// The non-zero `art_id` of the children `condition`, in order; none means that every article counts. Fee articles
+    /// may be among them.
+    QList<int> validArticles() const { return myValidArticles; }
+
+    /// Attribute `price`: of a value coupon cents, of a percent coupon the percentage; negative to take off. 0 in the
+    /// other one.
+    int maximumDiscountValue() const { return myMaximumDiscountValue; }
+    int discountPercentage() const { return myDiscountPercentage; }
+
+    /// Attribute `minimum_price`, cents that the valid articles must come to; a quantity coupon doesn't ask for it.
+    int minimumSpentValue() const { return myMinimumSpentValue; }
+
+    /// Attributes `free_quantity` and `minimum_quantity`: the pieces given free, and those that must be bought.
+    int freeQuantity() const { return myFreeQuantity; }
+    int minimumQuantity() const { return myMinimumQuantity; }
+
+    /// Attribute `shareable`. It has no effect here.
+    bool isShareable() const { return myShareable; }
+
+    /// Cents, 0 or more: the valid articles, with the transfer fee of the whole bill if its article is among them. No
+    /// payment or express agio.
+    int totalValueOfOrder(const VelTarmBill& theBill) const;
+    bool spentEnoughMoney(const VelTarmBill& theBill) const;
+
+    /// What each type gives, before the bound of discountForOrder; the coupon's own type isn't looked at. The offset is
+    /// subtracted as it stands, in the coupon's sign; 0 leaves the whole value.
+    int percentDiscount(const VelTarmBill& theBill) const;
+    int valueDiscount(const VelTarmBill& theBill, int theOffset) const;
+    int quantityDiscount(const VelTarmBill& theBill) const;
+
+    /// What VelTarmBill::totalFinalCost takes: the discount of the coupon's type, but never more off than
+    /// totalValueOfOrder. 0 for an unknown type.
+    int discountForOrder(const VelTarmBill& theBill, int theOffset) const;
+
+    /// The valid articles as the customer knows them, sorted, each name once. An id that no product has is passed over.
+    QStringList validArticleNames() const;
+
+private:
+    void readGrant(const QDomElement& theCoupon);
+    void readValidArticles(const QDomElement& theCoupon);
+
+    QString myId;
+    QString myCampaign;
+    VelCouponType myType = COUPON_TYPE_UNKNOWN;
+    QList<int> myValidArticles;
+    int myMaximumDiscountValue = 0;
+    int myMinimumSpentValue = 0;
+    int myFreeQuantity = 0;
+    int myMinimumQuantity = 0;
+    int myDiscountPercentage = 0;
+    bool myShareable = false;
+};
+
+#endif
