@@ -17,6 +17,10 @@ const QString STR_LANGUAGE = QStringLiteral("language");
 const QString STR_GROUP = QStringLiteral("group");
 const QString STR_SOURCE = QStringLiteral("source");
 const QString STR_DELIVERY = QStringLiteral("delivery");
+const QString STR_PAGES = QStringLiteral("pages");
+const QString STR_MAPS = QStringLiteral("maps");
+const QString STR_VIDEOS = QStringLiteral("videos");
+const QString STR_TEMPLATE = QStringLiteral("template");
 
 const int LOWEST_ID = std::numeric_limits<int>::min();
 
@@ -26,6 +30,10 @@ const QString STR_DESCRIPTION = QStringLiteral(
     "      articles with id, name, shipping group, type, price of a piece, and whether they can be ordered\n"
     "  velshop price ARTICLE COUNT [--source NET|CD|KIOSK] [--delivery POS|MAIL|ONSITE]\n"
     "      what so many pieces cost, with the discount model, level and band of each line\n"
+    "  velshop bands GROUP\n"
+    "      the discount bands of a shipping group, with the price of each product in each band\n"
+    "  velshop unit ARTICLE --pages N [--maps N] [--videos N] [--template CLASS=N]...\n"
+    "      the unit price of a composed book or calendar, part by part\n"
     "  velshop shop\n"
     "      the conditions: order ways, payments, currencies, shipping groups and the like\n"
     "  velshop types\n"
@@ -37,7 +45,8 @@ void declareOptions(QCommandLineParser& theParser)
     theParser.setApplicationDescription(STR_DESCRIPTION);
     theParser.addOption({{QStringLiteral("h"), STR_HELP}, QStringLiteral("Print this help.")});
     theParser.addVersionOption();
-    theParser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("list, price, shop or types"));
+    theParser.addPositionalArgument(QStringLiteral("command"),
+                                    QStringLiteral("list, price, bands, unit, shop or types"));
     theParser.addOptions({
         {STR_ACCOUNT,
          QStringLiteral("Folder of the key account: pricelist.xml, orderingdetails.xml, currencies.xml, and where it "
@@ -53,6 +62,11 @@ void declareOptions(QCommandLineParser& theParser)
         {STR_DELIVERY,
          QStringLiteral("price: how the goods go out, POS, MAIL or ONSITE; a kiosk goes with ONSITE alone."),
          QStringLiteral("DELIVERY")},
+        {STR_PAGES, QStringLiteral("unit: pages of the composed product."), QStringLiteral("N")},
+        {STR_MAPS, QStringLiteral("unit: areas with a map."), QStringLiteral("N")},
+        {STR_VIDEOS, QStringLiteral("unit: areas with a video."), QStringLiteral("N")},
+        {STR_TEMPLATE, QStringLiteral("unit: uses of templates of a price class; may be given several times."),
+         QStringLiteral("CLASS=N")},
     });
 }
 
@@ -99,6 +113,48 @@ bool readListArguments(const QCommandLineParser& theParser, VelshopArguments& th
            readNumber(theParser.value(STR_GROUP), QStringLiteral("--group"), LOWEST_ID, theArguments.myGroup, theError);
 }
 
+bool readBandsArguments(const QCommandLineParser& theParser, VelshopArguments& theArguments, QString& theError)
+{
+    return readNumber(theParser.positionalArguments().at(1), QStringLiteral("GROUP"), LOWEST_ID, theArguments.myGroup,
+                      theError);
+}
+
+bool readCount(const QCommandLineParser& theParser, const QString& theOption, int& theCount, QString& theError)
+{
+    return !theParser.isSet(theOption) ||
+           readNumber(theParser.value(theOption), QStringLiteral("--") + theOption, 0, theCount, theError);
+}
+
+bool readTemplates(const QCommandLineParser& theParser, QMap<QString, int>& theTemplates, QString& theError)
+{
+    for (const QString& text : theParser.values(STR_TEMPLATE)) {
+        const int equals = text.lastIndexOf(QLatin1Char('='));
+        int uses = 0;
+        if (equals < 1) {
+            theError = QStringLiteral("--template takes CLASS=N, not \"%1\"").arg(text);
+            return false;
+        }
+        if (!readNumber(text.mid(equals + 1), QStringLiteral("--template CLASS="), 0, uses, theError))
+            return false;
+        theTemplates[text.left(equals)] = uses;
+    }
+    return true;
+}
+
+bool readUnitArguments(const QCommandLineParser& theParser, VelshopArguments& theArguments, QString& theError)
+{
+    if (!theParser.isSet(STR_PAGES)) {
+        theError = QStringLiteral("unit needs --pages");
+        return false;
+    }
+    return readNumber(theParser.positionalArguments().at(1), QStringLiteral("ARTICLE"), LOWEST_ID,
+                      theArguments.myArticle, theError) &&
+           readCount(theParser, STR_PAGES, theArguments.myPages, theError) &&
+           readCount(theParser, STR_MAPS, theArguments.myMaps, theError) &&
+           readCount(theParser, STR_VIDEOS, theArguments.myVideos, theError) &&
+           readTemplates(theParser, theArguments.myTemplates, theError);
+}
+
 /// How a command reads its own arguments, how many words it takes behind its name, and which options belong to it.
 struct Command
 {
@@ -117,6 +173,8 @@ const QVector<Command>& commands()
 {
     static const QVector<Command> all{{"list", 0, {STR_GROUP}, readListArguments},
                                       {"price", 2, {STR_SOURCE, STR_DELIVERY}, readPriceArguments},
+                                      {"bands", 1, {}, readBandsArguments},
+                                      {"unit", 1, {STR_PAGES, STR_MAPS, STR_VIDEOS, STR_TEMPLATE}, readUnitArguments},
                                       {"shop", 0, {}, readNothing},
                                       {"types", 0, {}, readNothing}};
     return all;
@@ -125,7 +183,7 @@ const QVector<Command>& commands()
 /// An option that the command would ignore is an error, not a wish.
 bool takes(const Command& theCommand, const QCommandLineParser& theParser, QString& theError)
 {
-    for (const QString& option : {STR_GROUP, STR_SOURCE, STR_DELIVERY}) {
+    for (const QString& option : {STR_GROUP, STR_SOURCE, STR_DELIVERY, STR_PAGES, STR_MAPS, STR_VIDEOS, STR_TEMPLATE}) {
         if (theParser.isSet(option) && !theCommand.myOptions.contains(option)) {
             theError = QStringLiteral("--%1 does not belong to %2").arg(option, QLatin1String(theCommand.myName));
             return false;

@@ -3,6 +3,7 @@
 
 #include "frame/VelEnumerations.h"
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -15,10 +16,15 @@ struct VelshopArguments
     bool myIsJson = false;
 
     bool myHasGroup = false;
-    int myGroup = 0; ///< shipping group to list
+    int myGroup = 0; ///< shipping group to list, or whose bands are shown
 
     int myArticle = 0;
     int myCount = 0;
+
+    int myPages = 0; ///< of a composed product
+    int myMaps = 0;
+    int myVideos = 0;
+    QMap<QString, int> myTemplates; ///< uses by price class
 
     /// The two halves of the order source to price by; INPUT_SOURCE_ANY and DELIVERY_TYPE_ANY leave the choice open.
     VelInputSource myInputSource = INPUT_SOURCE_ANY;

@@ -77,12 +77,7 @@ bool isTooLarge(const QList<PricedLine>& theLines)
 
 QString bandText(const PricedLine& theLine)
 {
-    if (!theLine.myHasBand)
-        return QString();
-    const int lower = theLine.myBand.lowerLimit();
-    const int upper = theLine.myBand.upperLimit();
-    return upper == -1 ? QStringLiteral(", band from %1").arg(lower)
-                       : QStringLiteral(", band %1 to %2").arg(lower).arg(upper);
+    return theLine.myHasBand ? QStringLiteral(", band ") + VelshopWords::band(theLine.myBand) : QString();
 }
 
 QString lineText(const PricedLine& theLine)

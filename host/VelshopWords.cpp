@@ -122,6 +122,13 @@ QString VelshopWords::imageExport(VelImageExportTypeEnum theImageExport)
     return wordOf(IMAGE_EXPORTS, theImageExport);
 }
 
+QString VelshopWords::band(const VelDiscountLimit& theLimit)
+{
+    const int lower = theLimit.lowerLimit();
+    const int upper = theLimit.upperLimit();
+    return upper == -1 ? QStringLiteral("from %1").arg(lower) : QStringLiteral("%1 to %2").arg(lower).arg(upper);
+}
+
 QString VelshopWords::limit(int theNumber)
 {
     return theNumber == -1 ? QStringLiteral("-") : QString::number(theNumber);

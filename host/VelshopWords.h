@@ -2,6 +2,7 @@
 #define VELSHOPWORDS_H
 
 #include "frame/VelOrderSource.h"
+#include "price/VelDiscountLimit.h"
 
 #include <QString>
 
@@ -28,6 +29,9 @@ QString productGroup(VelProductGroupEnum theProductGroup);
 
 /// As "gallery".
 QString imageExport(VelImageExportTypeEnum theImageExport);
+
+/// As "25 to 49" or "from 100".
+QString band(const VelDiscountLimit& theLimit);
 
 /// A number of which -1 means that there is none.
 QString limit(int theNumber);

@@ -1,11 +1,13 @@
 #include "host/VelshopAccount.h"
 #include "host/VelshopArguments.h"
+#include "host/VelshopBands.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopList.h"
 #include "host/VelshopMessages.h"
 #include "host/VelshopPrice.h"
 #include "host/VelshopShop.h"
 #include "host/VelshopTypes.h"
+#include "host/VelshopUnit.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -21,6 +23,10 @@ int runCommand(const VelshopArguments& theArguments, QTextStream& theOutput, QSt
         return listArticles(theArguments, theOutput, theError);
     if (theArguments.myCommand == QLatin1String("price"))
         return priceArticle(theArguments, theOutput, theError);
+    if (theArguments.myCommand == QLatin1String("bands"))
+        return showBands(theArguments, theOutput, theError);
+    if (theArguments.myCommand == QLatin1String("unit"))
+        return priceUnit(theArguments, theOutput, theError);
     if (theArguments.myCommand == QLatin1String("shop"))
         return showShop(theArguments, theOutput);
     return listTypes(theArguments, theOutput);
