@@ -68,7 +68,6 @@ private slots:
             row                                              | input | delivery | payment
             input source alone keeps even a foreign payment  | 1     | 1        | 14
             delivery type chooses a payment                  | 0     | 0        | 0
-            both change                                      | 1     | 0        | 0
             to a way without payments                        | 4     | 2        | -1
             the same source                                  | 0     | 1        | 14
         )");

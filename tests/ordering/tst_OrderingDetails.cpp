@@ -64,21 +64,18 @@ QString state()
                .arg(currencyText(), wordingText(DISCOUNT_MODEL_BULK));
 }
 
-const QByteArray ALPHA =
-    "<o><pay_methods><m id='3' name='Bill'/></pay_methods><doi>true</doi><sales_tax>1</sales_tax><order_sources><w "
-    "input_source='0' delivery_type='1'/></order_sources><discount_types><d id='B' single_description='a %1' "
-    "group_description='ag %1 %2'/></discount_types><currencies><c id='USD'/><c id='CHF' factor='2.0'/></currencies>"
-    "<groups><group id='1' name='Alpha'/></groups><client_strategy_exceptions><client_strategy_exception "
-    "connect_strategy='bol'/></client_strategy_exceptions><image_exports><image_export type='locr'/></image_exports>"
-    "</o>";
+const QByteArray ALPHA = R"(<o><pay_methods><m id='3' name='Bill'/></pay_methods><doi>true</doi><sales_tax>1</sales_tax>
+    <order_sources><w input_source='0' delivery_type='1'/></order_sources>
+    <discount_types><d id='B' single_description='a %1' group_description='ag %1 %2'/></discount_types>
+    <currencies><c id='USD'/><c id='CHF' factor='2.0'/></currencies><groups><group id='1' name='Alpha'/></groups>
+    <client_strategy_exceptions><client_strategy_exception connect_strategy='bol'/></client_strategy_exceptions>
+    <image_exports><image_export type='locr'/></image_exports></o>)";
 const char* const ALPHA_STATE = "Bill; 101; 1:268; group Alpha; export 1; strategy 2; USD CHF 0.5; a %1|ag %1 %2";
 
-const QByteArray BETA =
-    "<o><pay_methods><m id='0' "
-    "name='Cash'/></pay_methods><address_check>true</address_check><sales_tax>1</sales_tax><order_sources><w "
-    "input_source='1' delivery_type='0'/></order_sources><discount_types><d id='P'/></discount_types><groups><group "
-    "id='1' name='Beta'/></groups><client_strategy_exceptions/><image_exports><image_export type='gallery'/>"
-    "</image_exports></o>";
+const QByteArray BETA = R"(<o><pay_methods><m id='0' name='Cash'/></pay_methods><address_check>true</address_check>
+    <sales_tax>1</sales_tax><order_sources><w input_source='1' delivery_type='0'/></order_sources>
+    <discount_types><d id='P'/></discount_types><groups><group id='1' name='Beta'/></groups>
+    <client_strategy_exceptions/><image_exports><image_export type='gallery'/></image_exports></o>)";
 const char* const BETA_STATE = // the last three are Alpha's
     "Cash; 011; 1:0379; group Beta; export 4; strategy 2; USD CHF 0.5; a %1|ag %1 %2";
 
@@ -159,7 +156,6 @@ private slots:
         readTable(R"(
             entries                                    | expected    | badFactor
             <!-- none -->                              | USD CHF 0.5 | -
-            <c id='SEK'/>                              | SEK ~ 1     | -
             <c id='NOK' factor='0.8'/>                 | USD NOK 1.25 | -
             <c id='NOK' factor='4'/><c id='SEK'/>      | SEK ~ 1     | -
             <c id='A'/><c id='B'/><c id='C' factor='4'/><c id='D' factor='5'/> | B D 0.2 | -
@@ -190,10 +186,9 @@ private slots:
             VelKeyAccountFileTimeStampManager::instance()->setPricelistTimeStamp(stamp);
             return details()->priceListNeedsToBeUpdated();
         };
-        load("<o><groups><group id='1' last_change='2024-01-01T08:00:00'/><group id='2' "
-             "last_change='2024-03-01T08:00:00'/>"
-             "<group id='3' last_change='2024-02-01T08:00:00'/><group id='-9' last_change='2025-01-01T08:00:00'/>"
-             "<group id='4' last_change='bad'/></groups></o>");
+        load(R"(<o><groups><group id='1' last_change='2024-01-01T08:00:00'/>
+            <group id='2' last_change='2024-03-01T08:00:00'/><group id='3' last_change='2024-02-01T08:00:00'/>
+            <group id='-9' last_change='2025-01-01T08:00:00'/><group id='4' last_change='bad'/></groups></o>)");
         QCOMPARE(details()->lastChangeInPriceList().toString(Qt::ISODate), "2024-03-01T08:00:00");
         QVERIFY(needsUpdate("2024-03-01T07:59:59"));
         QVERIFY(!needsUpdate("2024-03-01T08:00:00"));
@@ -244,7 +239,6 @@ private slots:
             ways        | expected | sources
             00          | 1:0167   | 0_0
             10          | 1:0379   | 1_0
-            11 10       | 2:03478  | 1_0 1_1
             10 00       | 2:01367  | 0_0 1_0
             01 10       | 2:023678 | 0_1 1_0
             00x 11x     | 2:0      | 0_0 1_1

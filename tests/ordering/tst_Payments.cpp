@@ -59,7 +59,6 @@ private slots:
         myAccount.write("pricelist.xml", "<p/>");
         VelDirectoryConfig::instance()->setResourceDirectory(myAccount.path());
         load("");
-        QCOMPARE(details()->payClasses().size(), 3);
     }
 
     void items()
@@ -70,9 +69,8 @@ private slots:
             <pay_methods><m id='2'/></pay_methods>
             <credit_cards><c id='5' name='Bill'/><c id='-7' name='Cash'/></credit_cards>
             <online_transfer_methods><t id='1' brand='T'/></online_transfer_methods>)");
-        QCOMPARE(text(PAYMENT_CLASS_PAY_METHODS),
-                 QString("3 3 Bill B [bill.png] blockable; 0 0 ~ ~ [nameless.png]; 0 0   [nameless.png]; 3 3 bill ~ "
-                         "[]"));
+        QCOMPARE(text(PAYMENT_CLASS_PAY_METHODS), "3 3 Bill B [bill.png] blockable; 0 0 ~ ~ [nameless.png]; "
+                                                  "0 0   [nameless.png]; 3 3 bill ~ []");
         QCOMPARE(text(PAYMENT_CLASS_CREDIT_CARDS), "5 1 Bill ~ [bill.png]; -7 1 Cash ~ []");
         QCOMPARE(text(PAYMENT_CLASS_ONLINE_TRANSFER_METHODS), "1 9 ~ T [nameless.png]");
         QCOMPARE(text(details()->availableMailOrderPaymentTypes()), "3 3");

@@ -1,5 +1,4 @@
 #include "frame/VelTarmInitializer.h"
-#include "ordering/VelOrderingDetailItem.h"
 #include "ordering/VelOrderingDetails.h"
 #include "ordering/VelTarmShippingGroup.h"
 #include "ordering/VelTarmShippingGroupManager.h"
@@ -14,13 +13,6 @@ namespace {
 
 const QString LARGE = QStringLiteral(VELTARM_SOURCE_DIR "/shop");
 const QString SMALL = QStringLiteral(VELTARM_SOURCE_DIR "/shop-small");
-
-QStringList ourMessages;
-
-void countMessage(QtMsgType, const QMessageLogContext&, const QString& theText)
-{
-    ourMessages.append(theText);
-}
 
 void activate(const QString& theFolder)
 {
@@ -67,17 +59,17 @@ private slots:
     {
         VelDirectoryConfig::instance()->setResourceDirectory(LARGE);
         VelDirectoryConfig::instance()->setConfigurationDirectory(LARGE);
-        qInstallMessageHandler(countMessage);
         activate(LARGE);
         VelTarmInitializer().setupModule();
     }
 
     void toAndFro()
     {
+        const MessageCatcher messages;
+        activate(LARGE);
         const QStringList large = picture();
         activate(SMALL);
         const QStringList small = picture();
-        QVERIFY(small != large);
         const int productCount = VelProductRegistry::instance()->productList().size();
         QSignalSpy loads(VelProductRegistry::instance(), SIGNAL(priceListUpdated()));
         QSignalSpy changes(VelOrderingDetails::instance(), SIGNAL(changed()));
@@ -90,44 +82,28 @@ private slots:
         QCOMPARE(loads.count(), 10);
         QCOMPARE(changes.count(), 10);
         QCOMPARE(VelProductRegistry::instance()->productList().size(), productCount);
-        QCOMPARE(ourMessages, QStringList());
+        QCOMPARE(messages.texts(), QStringList());
     }
 
     void pointersStayUsable()
     {
         activate(LARGE);
+        QCOMPARE(mailPrice(103, 50), 650); // 50 x 13
         VelProductRegistry* registry = VelProductRegistry::instance();
         const QList<VelProductAbstract*> products = registry->productList();
         const VelProductAbstract* onlyLarge = registry->productWithArticleID(102);
         const VelProductAbstract* transfer = registry->transferProduct(7);
-        const VelTarmShippingGroup* group = VelTarmShippingGroupManager::instance()->shippingGroup(2);
-        const VelOrderingDetailItem* item = VelOrderingDetails::instance()->orderingDetails().first();
-        const QString groupName = group->name();
-        const QString itemName = item->name();
 
         activate(SMALL);
-        for (int index = 0; index < products.size(); ++index)
-            QCOMPARE(registry->productList().at(index), products.at(index));
+        QCOMPARE(mailPrice(103, 50), 500); // 50 x 10
+        QCOMPARE(registry->productList().mid(0, products.size()), products);
         QVERIFY(onlyLarge->isDeprecated() && !onlyLarge->isOrderable());
         QCOMPARE(onlyLarge->name(), "10x13 glänzend (nicht mehr lieferbar)");
         QCOMPARE(transfer->articleID(), 11007);
         QVERIFY(registry->transferProduct(7) != transfer);
-        QVERIFY(!VelTarmShippingGroupManager::instance()->shippingGroup(2));
-        QCOMPARE(group->name(), groupName);
-        QCOMPARE(item->name(), itemName);
 
         activate(LARGE);
         QVERIFY(!onlyLarge->isDeprecated() && onlyLarge->isOrderable());
-    }
-
-    void pricesFollowTheAccount()
-    {
-        activate(LARGE);
-        QCOMPARE(mailPrice(103, 50), 650); // 50 x 13
-        activate(SMALL);
-        QCOMPARE(mailPrice(103, 50), 500); // 50 x 10
-        activate(LARGE);
-        QCOMPARE(mailPrice(103, 49), 735); // 49 x 15
     }
 };
 

@@ -108,7 +108,6 @@ private slots:
     {
         readTable(R"(
             text     | value | class
-            ALB6     | 6     | 1
             ALB81    | 79    | 1
             CAL6     | 106   | 2
             _cal37_  | 128   | 2

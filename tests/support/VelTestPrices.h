@@ -7,8 +7,9 @@
 #include <QRegularExpression>
 
 /// An element with price entries, each written as type, level, "@" quantity, "=" price, as in "B0=100 P1@5=450"; what
-/// is left out is left out of the entry, too.
-inline QDomElement priced(const QString& thePrices, const QString& theTag = QStringLiteral("article"))
+/// is left out is left out of the entry, too. Each entry has the further attributes, too.
+inline QDomElement priced(const QString& thePrices, const QString& theTag = QStringLiteral("article"),
+                          const QString& theFurtherAttributes = QString())
 {
     const QRegularExpression pattern(QStringLiteral("([A-Za-z,]*)(-?\\d+)(?:@(-?\\d+))?(?:=(-?\\d+))?"));
     const QStringList names = {QStringLiteral("type"), QStringLiteral("level"), QStringLiteral("quantity"),
@@ -17,7 +18,7 @@ inline QDomElement priced(const QString& thePrices, const QString& theTag = QStr
     QRegularExpressionMatchIterator found = pattern.globalMatch(thePrices);
     while (found.hasNext()) {
         const QRegularExpressionMatch entry = found.next();
-        entries += QStringLiteral("<e");
+        entries += QStringLiteral("<e ") + theFurtherAttributes;
         for (int i = 0; i < names.size(); ++i)
             if (!entry.captured(i + 1).isEmpty())
                 entries += QStringLiteral(" %1='%2'").arg(names.at(i), entry.captured(i + 1));
