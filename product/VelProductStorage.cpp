@@ -75,7 +75,10 @@ void VelProductStorage::release(void* theObject, std::size_t theSize)
         ::operator delete(theObject);
         return;
     }
-    for (const Shelf shelf : {SHELF_MAIN_PRODUCTS, SHELF_ADD_ONS})
-        if (object + aligned(theSize) == space(shelf).myNext)
+    for (const Shelf shelf : {SHELF_MAIN_PRODUCTS, SHELF_ADD_ONS}) {
+        if (object + aligned(theSize) == space(shelf).myNext) {
             space(shelf).myNext = object;
+            return; // empty add-ons begin where full main products end
+        }
+    }
 }
