@@ -155,6 +155,25 @@ void writeAddOn(PriceListWriter& theWriter, int theNumber)
     theWriter.end();
 }
 
+/// The shipping groups 1 and 2: by quantity under transfer model 1, and by the products under transfer model 2.
+void writeTransfers(PriceListWriter& theWriter)
+{
+    theWriter.start("transfers");
+    theWriter.start("transfer", {{"id", QStringLiteral("11001")}, {"group", QStringLiteral("1")}});
+    theWriter.start("base_prices");
+    theWriter.price("F", 0, 0, 295);
+    theWriter.price("F", 1, 100, 495);
+    theWriter.end();
+    theWriter.end();
+    theWriter.start("transfer",
+                    {{"id", QStringLiteral("11002")}, {"group", QStringLiteral("2")}, {"model", QStringLiteral("2")}});
+    theWriter.start("base_prices");
+    theWriter.price("F", 0, 0, 0);
+    theWriter.end();
+    theWriter.end();
+    theWriter.end();
+}
+
 } // namespace
 
 QByteArray syntheticPriceList(int theArticleCount)
@@ -170,6 +189,7 @@ QByteArray syntheticPriceList(int theArticleCount)
     for (int number = 0; number < theArticleCount / ARTICLES_PER_ADD_ON; ++number)
         writeAddOn(writer, number);
     writer.end();
+    writeTransfers(writer);
     writer.end();
     return bytes;
 }

@@ -80,8 +80,10 @@ VelTarmBill::~VelTarmBill()
 /// An add-on looks up the position of its main product, so the order of this walk is part of the result.
 void VelTarmBill::init()
 {
-    for (VelProductAbstract* product : myStatistic.products())
-        product->priceFor(myStatus.priceKey(), myStatistic.value(product, 0), 0, this, &myStatistic);
+    const VelTarmPriceKey key = myStatus.priceKey();
+    const QMap<VelProductAbstract*, int> items = myStatistic.items();
+    for (auto item = items.cbegin(); item != items.cend(); ++item)
+        item.key()->priceFor(key, item.value(), 0, this, &myStatistic);
     const bool isFree = std::any_of(myPositions.cbegin(), myPositions.cend(), [](const auto* thePosition) {
         return thePosition->discountModel() == DISCOUNT_MODEL_PACKAGE;
     });
