@@ -21,6 +21,9 @@ const QString STR_PAGES = QStringLiteral("pages");
 const QString STR_MAPS = QStringLiteral("maps");
 const QString STR_VIDEOS = QStringLiteral("videos");
 const QString STR_TEMPLATE = QStringLiteral("template");
+const QString STR_HTML = QStringLiteral("html");
+const QString STR_DISCOUNTS = QStringLiteral("discounts");
+const QString STR_ORDER_TEXT = QStringLiteral("order-text");
 
 const int LOWEST_ID = std::numeric_limits<int>::min();
 
@@ -34,6 +37,8 @@ const QString STR_DESCRIPTION = QStringLiteral(
     "      the discount bands of a shipping group, with the price of each product in each band\n"
     "  velshop unit ARTICLE --pages N [--maps N] [--videos N] [--template CLASS=N]...\n"
     "      the unit price of a composed book or calendar, part by part\n"
+    "  velshop bill CART [--html FILE] [--discounts FILE] [--order-text]\n"
+    "      the bills of a cart, one for each shipping group, and the order's totals\n"
     "  velshop shop\n"
     "      the conditions: order ways, payments, currencies, shipping groups and the like\n"
     "  velshop types\n"
@@ -46,7 +51,7 @@ void declareOptions(QCommandLineParser& theParser)
     theParser.addOption({{QStringLiteral("h"), STR_HELP}, QStringLiteral("Print this help.")});
     theParser.addVersionOption();
     theParser.addPositionalArgument(QStringLiteral("command"),
-                                    QStringLiteral("list, price, bands, unit, shop or types"));
+                                    QStringLiteral("list, price, bands, unit, bill, shop or types"));
     theParser.addOptions({
         {STR_ACCOUNT,
          QStringLiteral("Folder of the key account: pricelist.xml, orderingdetails.xml, currencies.xml, and where it "
@@ -67,6 +72,9 @@ void declareOptions(QCommandLineParser& theParser)
         {STR_VIDEOS, QStringLiteral("unit: areas with a video."), QStringLiteral("N")},
         {STR_TEMPLATE, QStringLiteral("unit: uses of templates of a price class; may be given several times."),
          QStringLiteral("CLASS=N")},
+        {STR_HTML, QStringLiteral("bill: write the same as a page that can be printed."), QStringLiteral("FILE")},
+        {STR_DISCOUNTS, QStringLiteral("bill: write the description of the discounts as XML."), QStringLiteral("FILE")},
+        {STR_ORDER_TEXT, QStringLiteral("bill: print the order-text lines of each product, too.")},
     });
 }
 
@@ -155,6 +163,22 @@ bool readUnitArguments(const QCommandLineParser& theParser, VelshopArguments& th
            readTemplates(theParser, theArguments.myTemplates, theError);
 }
 
+bool readFile(const QCommandLineParser& theParser, const QString& theOption, QString& theFile, QString& theError)
+{
+    theFile = theParser.value(theOption);
+    if (theParser.isSet(theOption) && theFile.isEmpty())
+        theError = QStringLiteral("--%1 names no file").arg(theOption);
+    return theError.isEmpty();
+}
+
+bool readBillArguments(const QCommandLineParser& theParser, VelshopArguments& theArguments, QString& theError)
+{
+    theArguments.myCart = theParser.positionalArguments().at(1);
+    theArguments.myHasOrderText = theParser.isSet(STR_ORDER_TEXT);
+    return readFile(theParser, STR_HTML, theArguments.myHtmlFile, theError) &&
+           readFile(theParser, STR_DISCOUNTS, theArguments.myDiscountsFile, theError);
+}
+
 /// How a command reads its own arguments, how many words it takes behind its name, and which options belong to it.
 struct Command
 {
@@ -175,6 +199,7 @@ const QVector<Command>& commands()
                                       {"price", 2, {STR_SOURCE, STR_DELIVERY}, readPriceArguments},
                                       {"bands", 1, {}, readBandsArguments},
                                       {"unit", 1, {STR_PAGES, STR_MAPS, STR_VIDEOS, STR_TEMPLATE}, readUnitArguments},
+                                      {"bill", 1, {STR_HTML, STR_DISCOUNTS, STR_ORDER_TEXT}, readBillArguments},
                                       {"shop", 0, {}, readNothing},
                                       {"types", 0, {}, readNothing}};
     return all;
@@ -183,7 +208,8 @@ const QVector<Command>& commands()
 /// An option that the command would ignore is an error, not a wish.
 bool takes(const Command& theCommand, const QCommandLineParser& theParser, QString& theError)
 {
-    for (const QString& option : {STR_GROUP, STR_SOURCE, STR_DELIVERY, STR_PAGES, STR_MAPS, STR_VIDEOS, STR_TEMPLATE}) {
+    for (const QString& option : {STR_GROUP, STR_SOURCE, STR_DELIVERY, STR_PAGES, STR_MAPS, STR_VIDEOS, STR_TEMPLATE,
+                                  STR_HTML, STR_DISCOUNTS, STR_ORDER_TEXT}) {
         if (theParser.isSet(option) && !theCommand.myOptions.contains(option)) {
             theError = QStringLiteral("--%1 does not belong to %2").arg(option, QLatin1String(theCommand.myName));
             return false;

@@ -26,6 +26,11 @@ struct VelshopArguments
     int myVideos = 0;
     QMap<QString, int> myTemplates; ///< uses by price class
 
+    QString myCart;          ///< file to bill
+    QString myHtmlFile;      ///< page to write, empty for none
+    QString myDiscountsFile; ///< description of discounts to write, empty for none
+    bool myHasOrderText = false;
+
     /// The two halves of the order source to price by; INPUT_SOURCE_ANY and DELIVERY_TYPE_ANY leave the choice open.
     VelInputSource myInputSource = INPUT_SOURCE_ANY;
     VelDeliveryType myDeliveryType = DELIVERY_TYPE_ANY;

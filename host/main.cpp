@@ -1,6 +1,7 @@
 #include "host/VelshopAccount.h"
 #include "host/VelshopArguments.h"
 #include "host/VelshopBands.h"
+#include "host/VelshopBill.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopList.h"
 #include "host/VelshopMessages.h"
@@ -27,6 +28,8 @@ int runCommand(const VelshopArguments& theArguments, QTextStream& theOutput, QSt
         return showBands(theArguments, theOutput, theError);
     if (theArguments.myCommand == QLatin1String("unit"))
         return priceUnit(theArguments, theOutput, theError);
+    if (theArguments.myCommand == QLatin1String("bill"))
+        return billCart(theArguments, theOutput, theError);
     if (theArguments.myCommand == QLatin1String("shop"))
         return showShop(theArguments, theOutput);
     return listTypes(theArguments, theOutput);

@@ -1,0 +1,70 @@
+#include "host/VelshopBillData.h"
+
+#include "host/VelshopBillMoney.h"
+#include "host/VelshopBillSheet.h"
+#include "host/VelshopWords.h"
+
+#include <QJsonArray>
+
+namespace {
+
+QJsonObject toJson(const VelshopBillLine& theLine)
+{
+    QJsonObject json{{QStringLiteral("article"), theLine.myArticle},
+                     {QStringLiteral("product"), theLine.myProduct},
+                     {QStringLiteral("pieces"), theLine.myPieces},
+                     {QStringLiteral("unitPrice"), theLine.myUnitPrice},
+                     {QStringLiteral("package"), theLine.myIsPackage},
+                     {QStringLiteral("model"), VelshopWords::discountModel(theLine.myModel)},
+                     {QStringLiteral("level"), theLine.myLevel},
+                     {QStringLiteral("amount"), theLine.myAmount}};
+    if (theLine.myOldPrice != -1)
+        json.insert(QStringLiteral("nonOfferPrice"), theLine.myOldPrice);
+    if (!theLine.myDays.isEmpty())
+        json.insert(QStringLiteral("days"), theLine.myDays);
+    return json;
+}
+
+QJsonObject toJson(const VelshopBillSums& theSums)
+{
+    QJsonObject amounts;
+    QJsonObject secondary;
+    for (const VelshopBillSums::Row& row : theSums.rows()) {
+        amounts.insert(row.myName, row.myAmount);
+        secondary.insert(row.myName, VelshopBillMoney::text(row.myAmount, true));
+    }
+    if (VelshopBillMoney::hasSecondary())
+        amounts.insert(VelshopBillMoney::code(true), secondary);
+    return amounts;
+}
+
+QJsonObject toJson(const VelshopBillGroup& theGroup)
+{
+    QJsonArray lines;
+    for (const VelshopBillLine& line : theGroup.myLines)
+        lines.append(toJson(line));
+    const bool isOrderable = theGroup.myProblems.isEmpty();
+    return {{QStringLiteral("group"), theGroup.myId},
+            {QStringLiteral("name"), theGroup.myName},
+            {QStringLiteral("lines"), lines},
+            {QStringLiteral("problems"), QJsonArray::fromStringList(theGroup.myProblems)},
+            {QStringLiteral("sums"), isOrderable ? QJsonValue(toJson(theGroup.mySums)) : QJsonValue()}};
+}
+
+} // namespace
+
+QJsonObject billData(const VelshopBillSheet& theSheet)
+{
+    QJsonArray groups;
+    for (const VelshopBillGroup& group : theSheet.myGroups)
+        groups.append(toJson(group));
+    const bool isOrderable = theSheet.isOrderable();
+    QJsonObject json{{QStringLiteral("order"), theSheet.myHead},
+                     {QStringLiteral("currency"), VelshopBillMoney::code(false)},
+                     {QStringLiteral("groups"), groups},
+                     {QStringLiteral("orderable"), isOrderable},
+                     {QStringLiteral("sums"), isOrderable ? QJsonValue(toJson(theSheet.mySums)) : QJsonValue()}};
+    if (!theSheet.myCoupon.isEmpty())
+        json.insert(QStringLiteral("coupon"), theSheet.myCoupon);
+    return json;
+}

@@ -1,0 +1,12 @@
+#ifndef VELSHOPBILLDATA_H
+#define VELSHOPBILLDATA_H
+
+#include <QJsonObject>
+
+struct VelshopBillSheet;
+
+/// The bills of an order as data, all amounts in cents of the primary currency; those of an order that can't be placed
+/// are null.
+QJsonObject billData(const VelshopBillSheet& theSheet);
+
+#endif

@@ -1,0 +1,96 @@
+#include "host/VelshopJsonReader.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace {
+
+const qint64 LARGEST_FILE = 16 * 1024 * 1024;
+const int LONGEST_SHOWN_VALUE = 40;
+
+/// The value as the file writes it, for a message.
+QString shown(const QJsonValue& theValue)
+{
+    if (theValue.isUndefined())
+        return QStringLiteral("it is missing");
+    QString text = QString::fromUtf8(QJsonDocument(QJsonArray{theValue}).toJson(QJsonDocument::Compact));
+    text = text.mid(1, text.size() - 2);
+    if (text.size() > LONGEST_SHOWN_VALUE)
+        text = text.left(LONGEST_SHOWN_VALUE) + QStringLiteral("...");
+    return QStringLiteral("not ") + text;
+}
+
+} // namespace
+
+void VelshopJsonReader::refuse(const QString& thePlace, const QString& theReason)
+{
+    if (!isRefused())
+        myError = QStringLiteral("%1, %2: %3").arg(myFile, thePlace, theReason);
+}
+
+/// The parser's offset lies behind the last character that it took.
+void VelshopJsonReader::refuseSyntax(const QByteArray& theBytes, int theOffset, const QString& theReason)
+{
+    const QByteArray before = theBytes.left(qMax(0, theOffset - 1));
+    const int line = before.count('\n') + 1;
+    const int column = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).size() + 1;
+    refuse(QStringLiteral("line %1, column %2").arg(line).arg(column), theReason);
+}
+
+QJsonObject VelshopJsonReader::document()
+{
+    QFile file(myFile);
+    if (!QFileInfo(myFile).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > LARGEST_FILE) {
+        myError = QStringLiteral("%1: %2").arg(myFile, file.isOpen() ? QStringLiteral("the file is too large")
+                                                                     : QStringLiteral("can't be read"));
+        return QJsonObject();
+    }
+    const QByteArray bytes = file.readAll();
+    QJsonParseError error;
+    const QJsonDocument json = QJsonDocument::fromJson(bytes, &error);
+    if (error.error != QJsonParseError::NoError)
+        refuseSyntax(bytes, error.offset, error.errorString());
+    else if (!json.isObject())
+        refuseSyntax(bytes, 0, QStringLiteral("must be an object"));
+    return json.object();
+}
+
+void VelshopJsonReader::allowKeys(const QJsonObject& theObject, const QString& thePlace, const QStringList& theKeys)
+{
+    for (const QString& key : theObject.keys())
+        if (!theKeys.contains(key))
+            refuse(thePlace + key, QStringLiteral("unknown, must be one of ") + theKeys.join(QStringLiteral(", ")));
+}
+
+int VelshopJsonReader::number(const QJsonValue& theValue, const QString& thePlace, int theLowest, int theHighest)
+{
+    const double number = theValue.toDouble();
+    if (theValue.isDouble() && number >= theLowest && number <= theHighest && number == static_cast<int>(number))
+        return static_cast<int>(number);
+    refuse(thePlace,
+           QStringLiteral("must be a whole number from %1 to %2, ").arg(theLowest).arg(theHighest) + shown(theValue));
+    return theLowest;
+}
+
+QString VelshopJsonReader::text(const QJsonValue& theValue, const QString& thePlace)
+{
+    if (!theValue.isString() || theValue.toString().isEmpty())
+        refuse(thePlace, QStringLiteral("must be a text, ") + shown(theValue));
+    return theValue.toString();
+}
+
+QJsonObject VelshopJsonReader::object(const QJsonValue& theValue, const QString& thePlace)
+{
+    if (!theValue.isObject())
+        refuse(thePlace, QStringLiteral("must be an object, ") + shown(theValue));
+    return theValue.toObject();
+}
+
+QJsonArray VelshopJsonReader::array(const QJsonValue& theValue, const QString& thePlace)
+{
+    if (!theValue.isArray() || theValue.toArray().isEmpty())
+        refuse(thePlace, QStringLiteral("must be an array with at least one entry, ") + shown(theValue));
+    return theValue.toArray();
+}

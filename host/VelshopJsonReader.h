@@ -1,0 +1,40 @@
+#ifndef VELSHOPJSONREADER_H
+#define VELSHOPJSONREADER_H
+
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+
+/// Reads a JSON file strictly: what is missing, of the wrong type or out of range is refused in one line that names the
+/// file and the place. The first refusal counts; what is read behind it means nothing.
+class VelshopJsonReader
+{
+public:
+    explicit VelshopJsonReader(const QString& theFile) : myFile(theFile) {}
+
+    bool isRefused() const { return !myError.isEmpty(); }
+    QString error() const { return myError; }
+
+    /// The place is a path such as items[2].count.
+    void refuse(const QString& thePlace, const QString& theReason);
+
+    /// The file's object; malformed JSON is refused with line and column.
+    QJsonObject document();
+
+    /// A misspelt key would be a wish that nobody hears.
+    void allowKeys(const QJsonObject& theObject, const QString& thePlace, const QStringList& theKeys);
+
+    /// These read what has to be there.
+    int number(const QJsonValue& theValue, const QString& thePlace, int theLowest, int theHighest);
+    QString text(const QJsonValue& theValue, const QString& thePlace);
+    QJsonObject object(const QJsonValue& theValue, const QString& thePlace);
+    QJsonArray array(const QJsonValue& theValue, const QString& thePlace);
+
+private:
+    void refuseSyntax(const QByteArray& theBytes, int theOffset, const QString& theReason);
+
+    QString myFile;
+    QString myError;
+};
+
+#endif
