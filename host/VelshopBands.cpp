@@ -43,10 +43,8 @@ QJsonObject toJson(const VelDiscountLimit& theBand, const QList<PriceInBand>& th
     QJsonObject json{{QStringLiteral("model"), VelshopWords::discountModel(theBand.discountModel())},
                      {QStringLiteral("level"), theBand.level()},
                      {QStringLiteral("package"), theBand.isPackage()},
-                     {QStringLiteral("from"), theBand.lowerLimit()},
                      {QStringLiteral("prices"), prices}};
-    if (theBand.upperLimit() != -1)
-        json.insert(QStringLiteral("to"), theBand.upperLimit());
+    VelshopWords::insertBand(json, theBand);
     return json;
 }
 

@@ -52,7 +52,7 @@ qint64 itemsOf(const VelTarmBill& theBill)
     return sum;
 }
 
-/// At most what a coupon takes a free piece for.
+/// The most that a coupon can take off for one free piece.
 qint64 highestUnitPrice(const VelTarmBill& theBill)
 {
     int highest = 0;

@@ -2,11 +2,11 @@
 
 #include "bill/VelProductPriceCalculator.h"
 #include "frame/VelTarmGlobalStatus.h"
+#include "host/VelshopArticle.h"
 #include "host/VelshopJsonReader.h"
 #include "host/VelshopWords.h"
 #include "ordering/VelOrderingDetails.h"
 #include "product/VelProductPrintFun.h"
-#include "product/VelProductRegistry.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -116,9 +116,10 @@ private:
         const int article = myReader.number(item.value(STR_ARTICLE), place + STR_ARTICLE,
                                             std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
         const int count = myReader.number(item.value(STR_COUNT), place + STR_COUNT, 1, HIGHEST_COUNT);
-        VelProductAbstract* product = VelProductRegistry::instance()->productWithArticleID(article);
+        QString reason;
+        VelProductAbstract* product = findArticle(article, reason);
         if (!product)
-            myReader.refuse(place + STR_ARTICLE, QStringLiteral("the price list has no article %1").arg(article));
+            myReader.refuse(place + STR_ARTICLE, reason);
         if (myReader.isRefused())
             return;
         addPieces(product, count, thePlace);

@@ -4,11 +4,11 @@
 #include "bill/VelTarmBillPosition.h"
 #include "frame/VelTarmGlobalStatus.h"
 #include "host/VelshopArguments.h"
+#include "host/VelshopArticle.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopWords.h"
 #include "price/VelDiscountLimit.h"
 #include "product/VelProductAbstract.h"
-#include "product/VelProductRegistry.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -109,11 +109,8 @@ QJsonObject toJson(const PricedLine& theLine)
                      {QStringLiteral("level"), position.discountLevel()}};
     if (position.nonOfferPrice() != -1)
         json.insert(QStringLiteral("nonOfferPrice"), position.nonOfferPrice());
-    if (theLine.myHasBand) {
-        json.insert(QStringLiteral("from"), theLine.myBand.lowerLimit());
-        if (theLine.myBand.upperLimit() != -1)
-            json.insert(QStringLiteral("to"), theLine.myBand.upperLimit());
-    }
+    if (theLine.myHasBand)
+        VelshopWords::insertBand(json, theLine.myBand);
     return json;
 }
 
@@ -165,11 +162,9 @@ void print(const PricedArticle& theArticle, bool theIsJson, QTextStream& theOutp
 
 int priceArticle(const VelshopArguments& theArguments, QTextStream& theOutput, QString& theError)
 {
-    const VelProductAbstract* product = VelProductRegistry::instance()->productWithArticleID(theArguments.myArticle);
-    if (!product) {
-        theError = QStringLiteral("the price list has no article %1").arg(theArguments.myArticle);
+    const VelProductAbstract* product = findArticle(theArguments.myArticle, theError);
+    if (!product)
         return EXIT_BAD_INPUT;
-    }
     const VelOrderSource source = orderSource(theArguments);
     if (!source.isValid()) {
         theError = QStringLiteral("KIOSK and ONSITE go together and with nothing else");

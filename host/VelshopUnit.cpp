@@ -2,10 +2,10 @@
 
 #include "bill/VelProductPriceCalculator.h"
 #include "host/VelshopArguments.h"
+#include "host/VelshopArticle.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopWords.h"
 #include "product/VelProductAbstract.h"
-#include "product/VelProductRegistry.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -60,11 +60,9 @@ void printText(const VelProductPriceCalculator& theCalculator, const QList<Part>
 
 int priceUnit(const VelshopArguments& theArguments, QTextStream& theOutput, QString& theError)
 {
-    VelProductAbstract* product = VelProductRegistry::instance()->productWithArticleID(theArguments.myArticle);
-    if (!product) {
-        theError = QStringLiteral("the price list has no article %1").arg(theArguments.myArticle);
+    VelProductAbstract* product = findArticle(theArguments.myArticle, theError);
+    if (!product)
         return EXIT_BAD_INPUT;
-    }
     const VelProductPriceCalculator calculator(product, theArguments.myPages, theArguments.myMaps,
                                                theArguments.myVideos, theArguments.myTemplates);
     if (!calculator.isOrderable()) {

@@ -129,6 +129,13 @@ QString VelshopWords::band(const VelDiscountLimit& theLimit)
     return upper == -1 ? QStringLiteral("from %1").arg(lower) : QStringLiteral("%1 to %2").arg(lower).arg(upper);
 }
 
+void VelshopWords::insertBand(QJsonObject& theJson, const VelDiscountLimit& theLimit)
+{
+    theJson.insert(QStringLiteral("from"), theLimit.lowerLimit());
+    if (theLimit.upperLimit() != -1)
+        theJson.insert(QStringLiteral("to"), theLimit.upperLimit());
+}
+
 QString VelshopWords::limit(int theNumber)
 {
     return theNumber == -1 ? QStringLiteral("-") : QString::number(theNumber);

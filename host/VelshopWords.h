@@ -4,6 +4,7 @@
 #include "frame/VelOrderSource.h"
 #include "price/VelDiscountLimit.h"
 
+#include <QJsonObject>
 #include <QString>
 
 /// The order desk's own words for the vocabulary of the library.
@@ -32,6 +33,9 @@ QString imageExport(VelImageExportTypeEnum theImageExport);
 
 /// As "25 to 49" or "from 100".
 QString band(const VelDiscountLimit& theLimit);
+
+/// The same as data: "from", and "to" where the band ends.
+void insertBand(QJsonObject& theJson, const VelDiscountLimit& theLimit);
 
 /// A number of which -1 means that there is none.
 QString limit(int theNumber);
