@@ -29,6 +29,7 @@ public:
     /// not to be used, but it computes all the same.
     bool isValid() const;
 
+    /// The coupon's code.
     QString id() const { return myId; }
 
     /// Attribute `campaign_no`, null when missing.
@@ -59,6 +60,8 @@ public:
     /// Cents, 0 or more: the valid articles, with the transfer fee of the whole bill if its article is among them. No
     /// payment or express agio.
     int totalValueOfOrder(const VelTarmBill& theBill) const;
+
+    /// Whether that reaches minimumSpentValue().
     bool spentEnoughMoney(const VelTarmBill& theBill) const;
 
     /// What each type gives, before the bound of discountForOrder; the coupon's own type isn't looked at. The offset is

@@ -14,6 +14,7 @@ class VelTarmPriceKey;
 class VELTARM_EXPORT VelOrderStatistic
 {
 public:
+    /// Whether no product was ever entered; one with a count of 0 is an item, too.
     bool isEmpty() const { return myItems.isEmpty(); }
 
     /// The count of the product, the default when the cart doesn't hold it.
@@ -21,6 +22,8 @@ public:
     {
         return myItems.value(theProduct, theDefaultValue);
     }
+
+    /// What the cart holds, in the order of the pointers.
     QMap<VelProductAbstract*, int> items() const { return myItems; }
     QList<VelProductAbstract*> products() const { return myItems.keys(); }
 

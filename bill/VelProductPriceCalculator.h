@@ -28,10 +28,13 @@ public:
     VelProductPriceCalculator& operator=(const VelProductPriceCalculator&) = default;
     virtual ~VelProductPriceCalculator() = default;
 
+    /// What the constructor was given; the product may be null.
     VelProductAbstract* product() const { return myProduct; }
     int countPages() const { return myCountPages; }
     int countLocrAreas() const { return myCountLocrAreas; }
     int countVideoAreas() const { return myCountVideoAreas; }
+
+    /// These count from the next question on.
     void setMainProduct(VelProductAbstract* theProduct) { myProduct = theProduct; }
     void setCountPages(int theCountPages) { myCountPages = theCountPages; }
     void setCountLocrAreas(int theCountLocrAreas) { myCountLocrAreas = theCountLocrAreas; }
@@ -47,7 +50,7 @@ public:
     /// Whole packages of pages beyond the minimum; 0 or below for none, 0 for a product that can't grow.
     int countPagePackages() const;
 
-    /// The charged template uses: three in a price class that begins with "1" count as one.
+    /// The charged template uses, all together and by price class: three in a class that begins with "1" count as one.
     int countAdditionalContents() const;
     QMap<QString, int> correctedAdditionalContent() const;
 
@@ -61,6 +64,7 @@ public:
     VelOrderStatistic boughtVideoAreas() const;
     VelOrderStatistic boughtTemplates() const;
 
+    /// The parts in cents: one piece of the product, 0 without one, and all of what was bought of each add-on.
     int priceOfProduct(const VelTarmPriceKey& theKey) const;
     int priceOfProduct() const;
     int priceOfPagePackages(const VelTarmPriceKey& theKey) const;

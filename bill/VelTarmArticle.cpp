@@ -1,8 +1,7 @@
 #include "bill/VelTarmArticle.h"
 
-#include "bill/VelTarmOrderTxtContent.h"
 #include "frame/VelArithmetic.h"
-#include "price/VelTarmPriceInfo.h"
+#include "product/VelProductStorage.h"
 #include "sibling/VelXMLParser.h"
 
 unsigned VelTarmArticle::myIdChanges = 0;
@@ -23,19 +22,24 @@ const double MM_PER_INCH = 25.4;
 } // namespace
 
 VelTarmArticle::VelTarmArticle(VelProductAbstract* theProduct, const QDomElement& theElement)
-    : myPriceInfo(new VelTarmPriceInfo(theProduct, theElement))
-    , myOrderTxtContent(new VelTarmOrderTxtContent(theElement))
+    : myPriceInfo(theProduct, theElement), myOrderTxtContent(theElement)
 {
     updateSizeInformation(theElement);
     updateNameInformation(theElement);
     updateShippingTimeInformation(theElement);
 }
 
-VelTarmArticle::~VelTarmArticle()
+void* VelTarmArticle::operator new(std::size_t theSize)
 {
-    delete myPriceInfo;
-    delete myOrderTxtContent;
+    return VelProductStorage::allocate(VelProductStorage::SHELF_ARTICLES, theSize);
 }
+
+void VelTarmArticle::operator delete(void* theObject, std::size_t theSize)
+{
+    VelProductStorage::release(theObject, theSize);
+}
+
+// ---- queries
 
 QSize VelTarmArticle::sizeInPixels() const
 {
@@ -65,84 +69,84 @@ bool VelTarmArticle::canOrderPOS() const
 int VelTarmArticle::priceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum, VelTarmBill* theBill,
                              const VelOrderStatistic* theStatistic) const
 {
-    return myPriceInfo->priceFor(theKey, theCount, theBill, theBillingSum, theStatistic);
+    return myPriceInfo.priceFor(theKey, theCount, theBill, theBillingSum, theStatistic);
 }
 
 int VelTarmArticle::transferPriceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
                                      const VelOrderStatistic* theStatistic) const
 {
-    return myPriceInfo->transferPriceFor(theKey, theCount, theBillingSum, theStatistic);
+    return myPriceInfo.transferPriceFor(theKey, theCount, theBillingSum, theStatistic);
 }
 
 int VelTarmArticle::unitTransferPriceFor(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic) const
 {
-    return myPriceInfo->unitTransferPriceInTransferModel2(theKey, theStatistic);
+    return myPriceInfo.unitTransferPriceInTransferModel2(theKey, theStatistic);
 }
 
 int VelTarmArticle::baseTransferPrice(const VelTarmPriceKey& theKey) const
 {
-    return myPriceInfo->baseTransferPrice(theKey);
+    return myPriceInfo.baseTransferPrice(theKey);
 }
 
 int VelTarmArticle::unitTransferPrice(const VelTarmPriceKey& theKey) const
 {
-    return myPriceInfo->unitTransferPrice(theKey);
+    return myPriceInfo.unitTransferPrice(theKey);
 }
 
 VelTransferModel VelTarmArticle::transferModel() const
 {
-    return myPriceInfo->transferModel();
+    return myPriceInfo.transferModel();
 }
 
 int VelTarmArticle::discountLevel(const VelTarmPriceKey& theKey, int theCount, int thePackageOnly) const
 {
-    return myPriceInfo->bestDiscountLevel(theKey, theCount, thePackageOnly != 0);
+    return myPriceInfo.bestDiscountLevel(theKey, theCount, thePackageOnly != 0);
 }
 
 QSet<VelDiscountLimit> VelTarmArticle::discountLimits(const VelTarmPriceKey& theKey) const
 {
-    return myPriceInfo->discountLimits(theKey);
+    return myPriceInfo.discountLimits(theKey);
 }
 
 int VelTarmArticle::priceAtBound(const VelTarmPriceKey& theKey, const VelDiscountLimit& theLimit) const
 {
-    return myPriceInfo->priceAtBound(theKey, theLimit);
+    return myPriceInfo.priceAtBound(theKey, theLimit);
 }
 
 int VelTarmArticle::nonOfferPrice(const VelTarmPriceKey& theKey) const
 {
-    return myPriceInfo->nonOfferPrice(theKey);
+    return myPriceInfo.nonOfferPrice(theKey);
 }
 
 QDateTime VelTarmArticle::endOfferDate(const VelTarmPriceKey& theKey) const
 {
-    return myPriceInfo->endOfferDate(theKey);
+    return myPriceInfo.endOfferDate(theKey);
 }
 
 QString VelTarmArticle::orderTxtHead() const
 {
-    return myOrderTxtContent->head();
+    return myOrderTxtContent.head();
 }
 
 QString VelTarmArticle::orderTxtValue(const QString& theKey) const
 {
-    return myOrderTxtContent->orderTxtValue(theKey);
+    return myOrderTxtContent.orderTxtValue(theKey);
 }
 
 QString VelTarmArticle::orderTxtLines() const
 {
-    return myOrderTxtContent->lines().join(QLatin1Char('\n'));
+    return myOrderTxtContent.lines().join(QLatin1Char('\n'));
 }
 
 QStringList VelTarmArticle::toOrderTxt() const
 {
-    return QStringList(myOrderTxtContent->head()) + myOrderTxtContent->lines() + QStringList(STR_DESCRIPTION + myName);
+    return QStringList(myOrderTxtContent.head()) + myOrderTxtContent.lines() + QStringList(STR_DESCRIPTION + myName);
 }
 
 void VelTarmArticle::update(const QDomElement& theElement)
 {
-    myPriceInfo->update(theElement);
-    myOrderTxtContent->update(theElement);
+    myPriceInfo.update(theElement);
+    myOrderTxtContent.update(theElement);
     updateSizeInformation(theElement);
     updateNameInformation(theElement);
     updateShippingTimeInformation(theElement);

@@ -1,9 +1,9 @@
 #ifndef VELTARMARTICLE_H
 #define VELTARMARTICLE_H
 
+#include "bill/VelTarmOrderTxtContent.h"
 #include "ordering/VelTarmShippingTimeList.h"
-#include "price/VelDiscountLimit.h"
-#include "price/VelTarmPriceKey.h"
+#include "price/VelTarmPriceInfo.h"
 
 #include <QDateTime>
 #include <QDomElement>
@@ -12,11 +12,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstddef>
+
 class VelOrderStatistic;
 class VelProductAbstract;
 class VelTarmBill;
-class VelTarmOrderTxtContent;
-class VelTarmPriceInfo;
 
 /**
  * The price-list face of one product: identity, print geometry, prices, order-text lines and shipping times, all read
@@ -29,7 +29,10 @@ class VelTarmArticle
 public:
     /// The product is borrowed and owns the article.
     VelTarmArticle(VelProductAbstract* theProduct, const QDomElement& theElement);
-    ~VelTarmArticle();
+
+    /// Articles lie side by side, see VelProductStorage.
+    static void* operator new(std::size_t theSize);
+    static void operator delete(void* theObject, std::size_t theSize);
 
     /// Reads a further element of the article; pointers to the article stay valid.
     void update(const QDomElement& theElement);
@@ -114,8 +117,8 @@ private:
 
     static unsigned myIdChanges;
 
-    VelTarmPriceInfo* myPriceInfo;
-    VelTarmOrderTxtContent* myOrderTxtContent;
+    VelTarmPriceInfo myPriceInfo;
+    VelTarmOrderTxtContent myOrderTxtContent;
     VelTarmShippingTimeList myShippingTimes;
     QSize mySizeInMM = QSize(0, 0);
     int myDpi = DEFAULT_DPI;

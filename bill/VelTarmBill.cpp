@@ -23,11 +23,6 @@ const QString STR_NO_DISCOUNT = QStringLiteral("-");
 
 const int WITHOUT_TRANSFER_MASK = 6;
 
-bool isInvalid(const VelTarmBillPositionAbstract* thePosition)
-{
-    return thePosition->inherits("VelTarmBillPositionInvalid");
-}
-
 bool isPackageModel(VelDiscountModel theModel)
 {
     return theModel == DISCOUNT_MODEL_LEVEL_PACKAGE || theModel == DISCOUNT_MODEL_PACKAGE;
@@ -68,13 +63,15 @@ VelTarmBill::VelTarmBill(const VelTarmBill& theOther)
     , myTransferState(theOther.myTransferState)
     , myStoredTransferFee(theOther.myStoredTransferFee)
 {
-    for (const VelTarmBillPositionAbstract* position : theOther.myPositions)
-        myPositions.append(position->clone());
+    myEntries.reserve(theOther.myEntries.size());
+    for (const VelTarmBillEntry& entry : theOther.myEntries)
+        myEntries.push_back(entry.clone());
 }
 
 VelTarmBill::~VelTarmBill()
 {
-    qDeleteAll(myPositions);
+    for (const VelTarmBillEntry& entry : myEntries)
+        delete entry.madePosition();
 }
 
 /// An add-on looks up the position of its main product, so the order of this walk is part of the result.
@@ -82,10 +79,11 @@ void VelTarmBill::init()
 {
     const VelTarmPriceKey key = myStatus.priceKey();
     const QMap<VelProductAbstract*, int> items = myStatistic.items();
+    myEntries.reserve(static_cast<std::size_t>(items.size()));
     for (auto item = items.cbegin(); item != items.cend(); ++item)
         item.key()->priceFor(key, item.value(), 0, this, &myStatistic);
-    const bool isFree = std::any_of(myPositions.cbegin(), myPositions.cend(), [](const auto* thePosition) {
-        return thePosition->discountModel() == DISCOUNT_MODEL_PACKAGE;
+    const bool isFree = std::any_of(myEntries.cbegin(), myEntries.cend(), [](const VelTarmBillEntry& theEntry) {
+        return theEntry.discountModel() == DISCOUNT_MODEL_PACKAGE;
     });
     myTransferState = isFree ? TRANSFER_STATE_FREE : TRANSFER_STATE_COMPUTE;
     myStoredTransferFee = transferFee();
@@ -108,50 +106,87 @@ int VelTarmBill::idOfPaymentAgioProduct() const
     return VelProductRegistry::instance()->idOfPaymentAgioProduct(myStatus.payment());
 }
 
+VelTarmBillPositionList VelTarmBill::orderPositions() const
+{
+    VelTarmBillPositionList positions;
+    positions.reserve(static_cast<int>(myEntries.size()));
+    for (const VelTarmBillEntry& entry : myEntries)
+        positions.append(entry.position());
+    return positions;
+}
+
 VelTarmBillPositionList VelTarmBill::sortedBillPositions() const
 {
-    VelTarmBillPositionList sorted = myPositions;
+    VelTarmBillPositionList sorted = orderPositions();
     qSort(sorted.begin(), sorted.end(), VelTarmBillPositionAbstract::lessThan);
     return sorted;
 }
 
+const VelTarmBillEntry* VelTarmBill::firstEntryOf(const VelProductAbstract* theProduct) const
+{
+    for (const VelTarmBillEntry& entry : myEntries)
+        if (entry.product() == theProduct)
+            return &entry;
+    return nullptr;
+}
+
 VelTarmBillPosition* VelTarmBill::billPosition(const VelProductAbstract* theProduct) const
 {
-    for (VelTarmBillPositionAbstract* position : myPositions)
-        if (position->product() == theProduct)
-            return qobject_cast<VelTarmBillPosition*>(position); // an invalid first position ends the search, too
-    return nullptr;
+    const VelTarmBillEntry* entry = firstEntryOf(theProduct);
+    return entry ? qobject_cast<VelTarmBillPosition*>(entry->position())
+                 : nullptr; // null for an invalid first one, too
+}
+
+/// Goes through the entries, not through the articles: an add-on may fit very many articles.
+int VelTarmBill::highestDiscountLevelOf(const QList<int>& theArticleIDs) const
+{
+    const VelProductRegistry* registry = VelProductRegistry::instance();
+    int highest = 0;
+    for (const VelTarmBillEntry& entry : myEntries) {
+        const VelProductAbstract* product = entry.product();
+        if (entry.discountLevel() <= highest || !entry.isPriced() || &entry != firstEntryOf(product))
+            continue;
+        const int articleID = product->articleID();
+        if (theArticleIDs.contains(articleID) && registry->productWithArticleID(articleID) == product)
+            highest = entry.discountLevel();
+    }
+    return highest;
 }
 
 bool VelTarmBill::isValid() const
 {
-    if (std::any_of(myPositions.cbegin(), myPositions.cend(), isInvalid))
+    const auto isInvalid = [](const VelTarmBillEntry& theEntry) { return theEntry.isInvalid(); };
+    if (std::any_of(myEntries.cbegin(), myEntries.cend(), isInvalid))
         return false;
     return priceOfPaymentAgio(0) >= 0; // it can't come out negative; the test stays all the same
 }
 
 void VelTarmBill::dump() const
 {
-    for (const VelTarmBillPositionAbstract* position : myPositions)
-        position->dump();
+    for (const VelTarmBillEntry& entry : myEntries)
+        entry.position()->dump();
 }
 
 // ---- changing
 
 void VelTarmBill::addOrderPositions(const VelTarmBillPositionList& thePositions)
 {
-    myPositions.append(thePositions);
+    for (VelTarmBillPositionAbstract* position : thePositions)
+        myEntries.emplace_back(position);
+}
+
+template <typename Condition>
+void VelTarmBill::removeEntries(Condition theCondition)
+{
+    myEntries.erase(std::remove_if(myEntries.begin(), myEntries.end(), theCondition), myEntries.end());
 }
 
 void VelTarmBill::filterArticles(const QList<int>& theArticleIDs)
 {
     if (theArticleIDs.isEmpty()) // every article counts, and the fees stay as they are
         return;
-    VelTarmBillPositionList kept;
-    for (VelTarmBillPositionAbstract* position : qAsConst(myPositions))
-        if (theArticleIDs.contains(position->product()->articleID()))
-            kept.append(position);
-    myPositions = kept;
+    removeEntries(
+        [&](const VelTarmBillEntry& theEntry) { return !theArticleIDs.contains(theEntry.product()->articleID()); });
     myPaymentAgioEnabled = theArticleIDs.contains(idOfPaymentAgioProduct());
     // Even a free transfer is overwritten here; the stored fee is 0 then.
     myTransferState =
@@ -160,11 +195,7 @@ void VelTarmBill::filterArticles(const QList<int>& theArticleIDs)
 
 void VelTarmBill::filterOutPackages()
 {
-    VelTarmBillPositionList kept;
-    for (VelTarmBillPositionAbstract* position : qAsConst(myPositions))
-        if (!position->isPackage())
-            kept.append(position);
-    myPositions = kept;
+    removeEntries([](const VelTarmBillEntry& theEntry) { return theEntry.isPackage(); });
 }
 
 // ---- computing
@@ -172,18 +203,18 @@ void VelTarmBill::filterOutPackages()
 int VelTarmBill::totalItemCost(const VelProductGroup& theGroup) const
 {
     int cost = 0;
-    for (const VelTarmBillPositionAbstract* position : myPositions)
-        if (position->product()->productGroup().matches(theGroup))
-            cost = VelArithmetic::sum(cost, position->positionPrice());
+    for (const VelTarmBillEntry& entry : myEntries)
+        if (entry.product()->productGroup().matches(theGroup))
+            cost = VelArithmetic::sum(cost, entry.positionPrice());
     return cost;
 }
 
 int VelTarmBill::totalItemCount(const VelProductGroup& theGroup) const
 {
     int count = 0;
-    for (const VelTarmBillPositionAbstract* position : myPositions)
-        if (!position->product()->isAddOn() && position->product()->productGroup().matches(theGroup))
-            count = VelArithmetic::sum(count, position->countItems());
+    for (const VelTarmBillEntry& entry : myEntries)
+        if (!entry.product()->isAddOn() && entry.product()->productGroup().matches(theGroup))
+            count = VelArithmetic::sum(count, entry.countItems());
     return count;
 }
 
@@ -201,9 +232,9 @@ int VelTarmBill::unitPriceOfCheapestArticle() const
 {
     const int none = std::numeric_limits<int>::max();
     int cheapest = none;
-    for (const VelTarmBillPositionAbstract* position : myPositions)
-        if (position->product()->productGroup().matches(PRODUCT_GROUP_ALL))
-            cheapest = qMin(cheapest, position->unitPrice());
+    for (const VelTarmBillEntry& entry : myEntries)
+        if (entry.product()->productGroup().matches(PRODUCT_GROUP_ALL))
+            cheapest = qMin(cheapest, entry.unitPrice());
     return cheapest == none ? 0 : cheapest;
 }
 
@@ -252,9 +283,9 @@ int VelTarmBill::priceOfExpressAgio(VelTarmBill* theBill) const
     if (!product)
         return 0;
     int items = 0;
-    for (const VelTarmBillPositionAbstract* position : myPositions)
-        if (position->product()->isPrintFunProduct())
-            items = VelArithmetic::sum(items, position->countItems());
+    for (const VelTarmBillEntry& entry : myEntries)
+        if (entry.product()->isPrintFunProduct())
+            items = VelArithmetic::sum(items, entry.countItems());
     VelTarmPriceKey key = myStatus.priceKey();
     key.setDiscountModel(DISCOUNT_MODEL_EXPRESS_FEE);
     return product->priceFor(key, items, 1, theBill, nullptr);
@@ -309,19 +340,19 @@ void VelTarmBill::initDiscountInfoForXTCI()
     const VelProductAbstract* highest = myStatistic.productWithHighestBaseTransferPrice(key);
     const VelProductAbstract* transfer = transferProduct();
     const bool isTransferModel2 = transfer && transfer->transferModel() == TRANSFER_MODEL_2;
-    for (const VelTarmBillPositionAbstract* position : VelTarmBillPositionList(myPositions)) {
-        VelProductAbstract* product = position->product();
-        int price = position->unitPrice();
-        for (int piece = 0; piece < position->countItems(); ++piece) {
+    for (const VelTarmBillEntry& entry : myEntries) {
+        VelProductAbstract* product = entry.product();
+        int price = entry.unitPrice();
+        for (int piece = 0; piece < entry.countItems(); ++piece) {
             // Exactly one piece of the whole bill carries the base price.
             const bool carriesBase = product == highest;
-            insertInfoDiscountInformationMap(product, position->discountModel(), position->discountLevel(),
-                                             position->isPackage(), price, isTransferModel2,
+            insertInfoDiscountInformationMap(product, entry.discountModel(), entry.discountLevel(), entry.isPackage(),
+                                             price, isTransferModel2,
                                              carriesBase ? product->baseTransferPrice(key) : NO_BASE_TRANSFER_PRICE,
                                              product->unitTransferPrice(key));
             if (carriesBase)
                 highest = nullptr;
-            if (position->isPackage() && isPackageModel(position->discountModel()))
+            if (entry.isPackage() && isPackageModel(entry.discountModel()))
                 price = 0; // the first piece carries the package's whole price
         }
     }

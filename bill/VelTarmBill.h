@@ -2,6 +2,7 @@
 #define VELTARMBILL_H
 
 #include "bill/VelOrderStatistic.h"
+#include "bill/VelTarmBillEntry.h"
 #include "bill/VelTarmBillPositionList.h"
 #include "frame/VelExpressType.h"
 #include "frame/VelTarmExport.h"
@@ -11,12 +12,15 @@
 #include <QDomElement>
 #include <QMap>
 
+#include <vector>
+
 class VelProductAbstract;
 class VelTarmBillPosition;
 
 /**
  * The cart of one shipping group in money: items, transfer fee (shipping), payment agio, express agio, total. All
- * amounts are whole cents and wrap around; -1 means that there is no price. The bill owns its positions.
+ * amounts are whole cents and wrap around; -1 means that there is no price. The bill owns its positions; it makes them
+ * objects when they are asked for.
  *
  * Products get positions when the bill is built. The transfer fee is a computed value beside them, and both agios are
  * computed each time they are asked for; transfer and express get positions only by initDiscountInfoForXTCI().
@@ -64,7 +68,7 @@ public:
     int idOfPaymentAgioProduct() const;
 
     /// A copy of the list, and one sorted by product name with numbers by value; the positions stay the bill's.
-    VelTarmBillPositionList orderPositions() const { return myPositions; }
+    VelTarmBillPositionList orderPositions() const;
     VelTarmBillPositionList sortedBillPositions() const;
 
     /// The first position of the product; null when there is none or when that one is invalid.
@@ -72,6 +76,12 @@ public:
 
     /// Appends the list; the bill takes the positions over.
     void addOrderPositions(const VelTarmBillPositionList& thePositions);
+
+    /// Appends a line, of which a position is made when one is asked for.
+    void addLine(const VelTarmBillLine& theLine) { myEntries.emplace_back(theLine); }
+
+    /// The highest discount level of these articles, each by its first position; 0 for none, and at least 0.
+    int highestDiscountLevelOf(const QList<int>& theArticleIDs) const;
 
     /// Whether every product has a price under the bill's status.
     bool isValid() const;
@@ -116,8 +126,8 @@ public:
     int totalFinalCostWithoutCoupon() const;
 
     /// Narrows the bill to the articles of the list; an empty list changes nothing at all. Transfer and payment are
-    /// charged only if the list holds their articles, the transfer as reckoned for the whole bill. For copies: what is
-    /// taken out of the list stays alive, owned by nobody.
+    /// charged only if the list holds their articles, the transfer as reckoned for the whole bill. For copies: a
+    /// position that is taken out of the list stays alive, owned by nobody.
     void filterArticles(const QList<int>& theArticleIDs);
     void filterOutPackages();
 
@@ -150,14 +160,19 @@ public:
                           bool theWithDiscountType);
 
 private:
+    using Entries = std::vector<VelTarmBillEntry>;
+
     void init();
+    const VelTarmBillEntry* firstEntryOf(const VelProductAbstract* theProduct) const;
+    template <typename Condition>
+    void removeEntries(Condition theCondition);
     bool isWithoutTransfer() const;
     int itemCost() const;
     int itemCount() const;
     int costBeforeFees(int theCoupon) const;
     int priceOf(const DiscountInformation& theInformation, int theCount) const;
 
-    VelTarmBillPositionList myPositions;
+    Entries myEntries; ///< in the order of the positions; those that were made are the bill's
     int myShippingGroup;
     VelTarmStatus myStatus;
     VelOrderStatistic myStatistic;

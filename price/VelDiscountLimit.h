@@ -15,6 +15,7 @@ public:
     /// DISCOUNT_MODEL_NONE, from 0 without an upper limit, level 0, no package.
     VelDiscountLimit() = default;
 
+    /// The parts as they are given.
     VelDiscountLimit(VelDiscountModel theDiscountModel, int theLowerLimit, int theUpperLimit, int theLevel,
                      bool theIsPackage);
 
@@ -36,8 +37,10 @@ public:
     /// Whether the entry belongs to a `transfer` element, the second level above it.
     static bool isTransferEntry(const QDomElement& theEntry);
 
+    /// From 0 and open above, as the entry that says no quantity.
     bool isBaseLimit() const { return myUpperLimit == -1 && myLowerLimit == 0; }
 
+    /// The pricing rule that the entry belongs to.
     VelDiscountModel discountModel() const { return myDiscountModel; }
 
     /// The smallest number of items at which the entry holds; of cents for DISCOUNT_MODEL_BILLING_SUM_TRANSFER.
@@ -47,12 +50,14 @@ public:
     int upperLimit() const { return myUpperLimit; }
     void setUpperLimit(int theUpperLimit) { myUpperLimit = theUpperLimit; }
 
+    /// The discount level, 0 for the base price.
     int level() const { return myLevel; }
 
     /// Whether the price is one for a whole package and not for an item: the type began with an upper-case letter,
     /// and the entry is one of neither a transfer nor an express fee. Plain bulk entries carry the flag as well.
     bool isPackage() const { return myIsPackage; }
 
+    /// By all five parts.
     bool operator==(const VelDiscountLimit& theOther) const;
     bool operator!=(const VelDiscountLimit& theOther) const { return !(*this == theOther); }
 

@@ -30,6 +30,7 @@ public:
     static bool compareDiscountLimit(const VelDiscountLimit& theLeft, const VelDiscountLimit& theRight);
 
 public slots:
+    /// Forgets everything; connected to the registry's priceListUpdated().
     void clear();
 
 private:

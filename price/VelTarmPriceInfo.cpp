@@ -2,17 +2,15 @@
 
 #include "bill/VelOrderStatistic.h"
 #include "bill/VelTarmBill.h"
-#include "bill/VelTarmBillPosition.h"
-#include "bill/VelTarmBillPositionInvalid.h"
 #include "bill/VelTarmBillPositionList.h"
 #include "frame/EnumHelper.h"
 #include "frame/VelArithmetic.h"
 #include "frame/VelChildElements.h"
 #include "product/VelProductAddOn.h"
-#include "product/VelProductRegistry.h"
 #include "sibling/VelXMLParser.h"
 
 #include <QDebug>
+#include <QtAlgorithms>
 
 #include <algorithm>
 #include <limits>
@@ -38,21 +36,35 @@ bool isIgnored(VelDiscountModel theModel)
     return theModel == DISCOUNT_MODEL_FUTURE_EXTENSION || theModel == DISCOUNT_MODEL_UNDEFINED;
 }
 
+VelTarmPricePlace placeOf(const VelTarmPriceKey& theKey)
+{
+    return {theKey.orderSource(), theKey.discountModel(), theKey.discountLevel()};
+}
+
+/// The number of the shelf of an order source, in rising order of the sources that prices can stand under. All other
+/// sources share a last shelf, which is always empty.
+std::size_t shelfOf(const VelOrderSource& theSource)
+{
+    const int delivery = theSource.deliveryType();
+    if (delivery < DELIVERY_TYPE_POS || delivery > DELIVERY_TYPE_ON_SITE)
+        return VelTarmPriceInfo::SHELVES;
+    switch (theSource.inputSource()) {
+    case INPUT_SOURCE_NET:
+        return static_cast<std::size_t>(delivery);
+    case INPUT_SOURCE_CD:
+        return static_cast<std::size_t>(3 + delivery);
+    case INPUT_SOURCE_KIOSK:
+        return static_cast<std::size_t>(6 + delivery);
+    default:
+        return VelTarmPriceInfo::SHELVES;
+    }
+}
+
 /// These do not compete on price: the first of them that has a price at all is taken.
 bool winsAtOnce(VelDiscountModel theModel)
 {
     return theModel == DISCOUNT_MODEL_LEVEL_PACKAGE || theModel == DISCOUNT_MODEL_PACKAGE ||
            theModel == DISCOUNT_MODEL_BILLING_SUM_TRANSFER || theModel == DISCOUNT_MODEL_INHERITED_DISCOUNT;
-}
-
-/// The old price beside the new one, for as long as the offer lasts; the amount itself is not touched by an offer.
-/// The clock is read only where there is an old price to show.
-int shownNonOfferPrice(const VelTarmPriceValue& theValue)
-{
-    if (theValue.nonOfferPrice() == -1)
-        return -1;
-    const bool offerRuns = QDateTime::currentMSecsSinceEpoch() < theValue.endOfferDate().toMSecsSinceEpoch();
-    return offerRuns ? theValue.nonOfferPrice() : -1;
 }
 
 } // namespace
@@ -97,8 +109,7 @@ QList<VelDeliveryType> VelTarmPriceInfo::deliveryTypes(const VelDeliveryType& th
 
 VelTarmPriceValue* VelTarmPriceInfo::priceValue(const VelTarmPriceKey& theKey) const
 {
-    const VelTarmPricePlace place{theKey.orderSource(), theKey.discountModel(), theKey.discountLevel()};
-    return &valueOrInvalid(place);
+    return &valueOrInvalid(placeOf(theKey));
 }
 
 VelTarmPriceValue* VelTarmPriceInfo::basePriceValue(const VelTarmPriceKey& theKey) const
@@ -151,18 +162,34 @@ void VelTarmPriceInfo::dump() const
     }
 }
 
-VelTarmPriceInfo::Prices::const_iterator VelTarmPriceInfo::firstNotBefore(const VelTarmPricePlace& thePlace) const
+VelTarmPriceInfo::Bands VelTarmPriceInfo::shelf(const VelOrderSource& theSource) const
 {
-    return std::lower_bound(myPrices.begin(), myPrices.end(), thePlace,
-                            [](const VelTarmStoredPrice& thePrice, const VelTarmPricePlace& theBound) {
-                                return thePrice.place() < theBound;
-                            });
+    const std::size_t number = shelfOf(theSource);
+    return {myPrices.data() + myShelfBegins[number], myPrices.data() + myShelfBegins[number + 1]};
+}
+
+VelTarmPriceInfo::Bands VelTarmPriceInfo::bands(const VelOrderSource& theSource, VelDiscountModel theModel) const
+{
+    const Bands prices = shelf(theSource);
+    const qint64 lowest = rankOf(theModel, 0);
+    const qint64 highest = rankOf(theModel, MAX_INT);
+    const bool areAll =
+        prices.begin() == prices.end() || (prices.begin()->rank() >= lowest && (prices.end() - 1)->rank() <= highest);
+    if (areAll) // most articles have one model
+        return prices;
+    const auto isBefore = [](const VelTarmStoredPrice& thePrice, qint64 theRank) { return thePrice.rank() < theRank; };
+    const auto begin = std::lower_bound(prices.begin(), prices.end(), lowest, isBefore);
+    return {begin, std::lower_bound(begin, prices.end(), highest + 1, isBefore)};
 }
 
 VelTarmPriceValue* VelTarmPriceInfo::find(const VelTarmPricePlace& thePlace) const
 {
-    const auto price = firstNotBefore(thePlace);
-    if (price == myPrices.end() || thePlace < price->place())
+    const qint64 rank = rankOf(thePlace.myModel, thePlace.myLevel);
+    const Bands prices = shelf(thePlace.mySource);
+    const auto price =
+        std::lower_bound(prices.begin(), prices.end(), rank,
+                         [](const VelTarmStoredPrice& thePrice, qint64 theRank) { return thePrice.rank() < theRank; });
+    if (price == prices.end() || price->rank() != rank)
         return nullptr;
     return const_cast<VelTarmPriceValue*>(&price->myValue); // a value is handed out for writing even by const queries
 }
@@ -178,19 +205,9 @@ VelTarmPriceValue& VelTarmPriceInfo::baseValue(const VelTarmPriceKey& theKey) co
     return valueOrInvalid({theKey.orderSource(), DISCOUNT_MODEL_BULK, 0});
 }
 
-VelTarmPriceInfo::Bands VelTarmPriceInfo::bands(const VelOrderSource& theSource, VelDiscountModel theModel,
-                                                int theLowestLevel, int theHighestLevel) const
-{
-    const auto begin = firstNotBefore({theSource, theModel, theLowestLevel});
-    auto end = begin;
-    while (end != myPrices.end() && !(VelTarmPricePlace{theSource, theModel, theHighestLevel} < end->place()))
-        ++end;
-    return {begin, end};
-}
-
 int VelTarmPriceInfo::countItemsAtUpperBound(const VelTarmPriceKey& theKey) const
 {
-    return itemsAtUpperBound({theKey.orderSource(), theKey.discountModel(), theKey.discountLevel()});
+    return itemsAtUpperBound(placeOf(theKey));
 }
 
 int VelTarmPriceInfo::itemsAtUpperBound(const VelTarmPricePlace& thePlace) const
@@ -214,6 +231,7 @@ void VelTarmPriceInfo::update(const QDomElement& theArticle)
 void VelTarmPriceInfo::clearAllPriceInformation()
 {
     myPrices.clear();
+    myShelfBegins.fill(0);
     myDiscountModels = 0;
     myMaxDiscountLevel = 0;
     myTransferModel = TRANSFER_MODEL_UNDEFINED;
@@ -257,14 +275,16 @@ void VelTarmPriceInfo::readEntry(const QDomElement& theEntry)
 /// than after each: an article with very many entries must not take for ever.
 void VelTarmPriceInfo::settle()
 {
-    const auto isBefore = [](const VelTarmStoredPrice& theLeft, const VelTarmStoredPrice& theRight) {
-        return theLeft.place() < theRight.place();
-    };
-    std::stable_sort(myPrices.begin(), myPrices.end(), isBefore);
+    std::stable_sort(myPrices.begin(), myPrices.end());
     const auto firstKept =
         std::unique(myPrices.rbegin(), myPrices.rend(),
-                    [&](const auto& theLater, const auto& theEarlier) { return !isBefore(theEarlier, theLater); });
+                    [](const auto& theLater, const auto& theEarlier) { return !(theEarlier < theLater); });
     myPrices.erase(myPrices.begin(), firstKept.base());
+    for (std::size_t shelf = 0, place = 0; shelf < myShelfBegins.size(); ++shelf) {
+        while (place < myPrices.size() && shelfOf(myPrices[place].mySource) < shelf)
+            ++place;
+        myShelfBegins[shelf] = static_cast<quint32>(place);
+    }
     for (VelTarmStoredPrice& price : myPrices)
         price.myValue.setUpperLimit(itemsAtUpperBound(price.place()));
 }
@@ -293,237 +313,263 @@ int VelTarmPriceInfo::priceFor(const VelTarmPriceKey& theKey, int theCount, VelT
         return priceInTransferModel2(theKey, theStatistic, theBill);
     if (theKey.discountModel() == DISCOUNT_MODEL_EXPRESS_FEE)
         return priceInModel(theKey, theCount, theBillingSum, theBill);
-
-    const int mainProductsLevel = inheritedLevel(theBill);
-    VelTarmPriceKey key(theKey);
-    const VelDiscountModel model = searchBestModel(key, theCount, theBillingSum, mainProductsLevel);
-    key.setDiscountModel(model);
-    if (model == DISCOUNT_MODEL_INHERITED_DISCOUNT)
-        key.setDiscountLevel(mainProductsLevel);
-    return priceInModel(key, theCount, theBillingSum, theBill);
+    return chargeTo(theBill, bestAnswer(theKey.orderSource(), theCount, theBillingSum, inheritedLevel(theBill)));
 }
 
 /// The highest discount level that any main product of an add-on has in the bill so far.
 int VelTarmPriceInfo::inheritedLevel(const VelTarmBill* theBill) const
 {
-    const auto* addOn = theBill ? dynamic_cast<const VelProductAddOn*>(myProduct) : nullptr;
-    if (!addOn)
+    if (!theBill || !myProduct->isProductClass(PRODUCT_CLASS_ADD_ON)) // spares all others the cast
         return 0;
-    int level = 0;
-    for (const int articleID : addOn->articleIDs()) {
-        const VelProductAbstract* mainProduct = VelProductRegistry::instance()->productWithArticleID(articleID);
-        if (const VelTarmBillPosition* position = theBill->billPosition(mainProduct))
-            level = qMax(level, position->discountLevel());
-    }
-    return level;
+    const auto* addOn = dynamic_cast<const VelProductAddOn*>(myProduct);
+    return addOn ? theBill->highestDiscountLevelOf(addOn->articleIDs()) : 0;
 }
 
 int VelTarmPriceInfo::priceInModel(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
                                    VelTarmBill* theBill) const
 {
-    if (!theBill)
-        return applyRule(theKey, theCount, theBillingSum, nullptr);
-    VelTarmBillPositionList positions;
-    const int price = applyRule(theKey, theCount, theBillingSum, &positions);
-    theBill->addOrderPositions(positions);
-    return price;
+    return chargeTo(theBill, answer(placeOf(theKey), theCount, theBillingSum));
 }
 
-int VelTarmPriceInfo::applyRule(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
-                                VelTarmBillPositionList* thePositions) const
+VelTarmPriceInfo::Answer VelTarmPriceInfo::answer(const VelTarmPricePlace& thePlace, int theCount,
+                                                  int theBillingSum) const
 {
-    switch (theKey.discountModel()) {
+    switch (thePlace.myModel) {
     case DISCOUNT_MODEL_BULK:
-        return priceBulk(theKey, theCount, thePositions);
+        return bulk(thePlace.mySource, theCount);
     case DISCOUNT_MODEL_LEVEL_PACKAGE:
     case DISCOUNT_MODEL_PACKAGE:
-        return pricePackage(theKey, theCount, thePositions);
+        return package(thePlace.mySource, thePlace.myModel, theCount);
     case DISCOUNT_MODEL_BULK_TRANSFER:
-        return priceBulkTransfer(theKey, theCount, thePositions);
-    case DISCOUNT_MODEL_BILLING_SUM_TRANSFER:
-        return priceBillingSumTransfer(theKey, theBillingSum, thePositions);
     case DISCOUNT_MODEL_EXPRESS_FEE:
-        return priceExpressFee(theKey, theCount, thePositions);
+        return oneFee(thePlace.mySource, thePlace.myModel, theCount);
+    case DISCOUNT_MODEL_BILLING_SUM_TRANSFER:
+        return billingSumTransfer(thePlace.mySource, theBillingSum);
     case DISCOUNT_MODEL_INHERITED_DISCOUNT:
-        return priceInheritedDiscount(theKey, theCount, thePositions);
+        return inheritedDiscount(thePlace, theCount);
     default:
-        if (thePositions)
-            thePositions->append(new VelTarmBillPositionInvalid(myProduct));
-        return -1;
+        return noAnswer();
     }
 }
 
 VelDiscountModel VelTarmPriceInfo::bestDiscountModel(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
                                                      int theInheritedLevel) const
 {
-    VelTarmPriceKey workingKey(theKey);
-    return searchBestModel(workingKey, theCount, theBillingSum, theInheritedLevel);
+    return bestAnswer(theKey.orderSource(), theCount, theBillingSum, theInheritedLevel).myModel;
 }
 
-/// Tries the models in the caller's key, whose order source it leaves alone, so that a query makes one key only.
-VelDiscountModel VelTarmPriceInfo::searchBestModel(VelTarmPriceKey& theWorkingKey, int theCount, int theBillingSum,
-                                                   int theInheritedLevel) const
+/// Models are tried in rising order of their numbers. What the best one answers is kept: its rule runs only once.
+VelTarmPriceInfo::Answer VelTarmPriceInfo::bestAnswer(const VelOrderSource& theSource, int theCount, int theBillingSum,
+                                                      int theInheritedLevel) const
 {
-    VelDiscountModel best = DISCOUNT_MODEL_UNDEFINED;
+    Answer best = noAnswer();
     int bestPrice = MAX_INT;
-    for (int number = 0; number < MODEL_BOUND; ++number) {
-        const auto model = static_cast<VelDiscountModel>(number);
-        if (!(myDiscountModels & bitOf(model)))
-            continue;
-        theWorkingKey.setDiscountModel(model);
-        theWorkingKey.setDiscountLevel(model == DISCOUNT_MODEL_INHERITED_DISCOUNT ? theInheritedLevel : 0);
-        const int price = applyRule(theWorkingKey, theCount, theBillingSum, nullptr);
-        if (price == -1)
+    for (unsigned models = myDiscountModels; models != 0; models &= models - 1) {
+        const auto model = static_cast<VelDiscountModel>(qCountTrailingZeroBits(models));
+        const int level = model == DISCOUNT_MODEL_INHERITED_DISCOUNT ? theInheritedLevel : 0;
+        const Answer candidate = answer({theSource, model, level}, theCount, theBillingSum);
+        if (candidate.myPrice == -1)
             continue;
         if (winsAtOnce(model))
-            return model;
-        if (bestPrice > price) { // strictly: of two equal prices the lower model number wins
-            best = model;
-            bestPrice = price;
+            return candidate;
+        if (bestPrice > candidate.myPrice) { // strictly: of two equal prices the lower model number wins
+            best = candidate;
+            bestPrice = candidate.myPrice;
         }
     }
     return best;
 }
 
-int VelTarmPriceInfo::bestDiscountLevel(const VelTarmPriceKey& theKey, int theCount, bool thePackagesOnly) const
+/// The highest level from 1 up whose lower limit the count reaches, null for none; from there down when a level is
+/// given. The highest level wins, whatever the limits below it; upper limits and gaps play no part.
+const VelTarmPriceValue* VelTarmPriceInfo::reached(const Bands& theBands, int theCount, bool thePackagesOnly)
 {
-    return levelReached(theKey.orderSource(), theKey.discountModel(), theCount, thePackagesOnly);
+    for (auto band = theBands.end(); band != theBands.begin();) {
+        const VelTarmPriceValue& value = (--band)->myValue;
+        if (value.discountLevel() < 1)
+            break;
+        if (value.lowerLimit() <= theCount && (!thePackagesOnly || value.isPackagePrice()) && value.isValid())
+            return &value;
+    }
+    return nullptr;
 }
 
-/// The highest level wins, whatever the limits below it. Level 0 is what remains when no level is reached; upper
-/// limits and gaps play no part.
-int VelTarmPriceInfo::levelReached(const VelOrderSource& theSource, VelDiscountModel theModel, int theCount,
-                                   bool thePackagesOnly) const
+/// What remains when no level is reached: the entry at level 0, the invalid value without one.
+const VelTarmPriceValue& VelTarmPriceInfo::valueAtLevelZero(const Bands& theBands)
 {
-    const Bands levels = bands(theSource, theModel, 1, MAX_INT);
+    const bool hasOne = theBands.begin() != theBands.end() && theBands.begin()->myValue.discountLevel() == 0;
+    return hasOne ? theBands.begin()->myValue : *VelTarmPriceValue::invalidPrice();
+}
+
+int VelTarmPriceInfo::bestDiscountLevel(const VelTarmPriceKey& theKey, int theCount, bool thePackagesOnly) const
+{
+    const Bands levels = bands(theKey.orderSource(), theKey.discountModel());
+    const VelTarmPriceValue* value = reached(levels, theCount, thePackagesOnly);
+    return value ? value->discountLevel() : 0;
+}
+
+VelTarmPriceInfo::Answer VelTarmPriceInfo::noAnswer()
+{
+    return {DISCOUNT_MODEL_UNDEFINED, -1, true, 0, {}};
+}
+
+VelTarmPriceInfo::Answer VelTarmPriceInfo::answerOf(VelDiscountModel theModel, int thePrice)
+{
+    return {theModel, thePrice, false, 0, {}};
+}
+
+VelTarmPriceInfo::Answer VelTarmPriceInfo::answerOf(VelDiscountModel theModel, int thePrice, const Charge& theCharge)
+{
+    return {theModel, thePrice, false, 1, {theCharge, {}}};
+}
+
+/// Reaching a level reprices all the items.
+VelTarmPriceInfo::Answer VelTarmPriceInfo::bulk(const VelOrderSource& theSource, int theCount) const
+{
+    const Bands levels = bands(theSource, DISCOUNT_MODEL_BULK);
+    const VelTarmPriceValue* band = reached(levels, theCount, false);
+    const VelTarmPriceValue& value = band ? *band : valueAtLevelZero(levels);
+    const int price = value.isValid() ? VelArithmetic::product(theCount, value.price()) : -1;
+    return answerOf(DISCOUNT_MODEL_BULK, price,
+                    {&value, DISCOUNT_MODEL_BULK, band ? band->discountLevel() : 0, theCount, theCount, 1});
+}
+
+VelTarmPriceInfo::Answer VelTarmPriceInfo::package(const VelOrderSource& theSource, VelDiscountModel theModel,
+                                                   int theCount) const
+{
+    if (theCount == 0)
+        return answerOf(theModel, 0);
+    const Bands levels = bands(theSource, theModel);
+    const VelTarmPriceValue* best = reached(levels, theCount, false);
+    if (!best) // below the first band there is no price at all in these models
+        return answerOf(theModel, -1);
+    const auto items = [&](int theItems) {
+        return Charge{best, theModel, best->discountLevel(), theItems, theItems, 1};
+    };
+    const VelTarmPriceValue* package = reached(levels, theCount, true);
+    if (!package)
+        return answerOf(theModel, VelArithmetic::product(theCount, best->price()), items(theCount));
+
+    const int size = package->upperLimit();
+    Answer answer = answerOf(theModel, package->price(),
+                             {package, theModel, package->discountLevel(), package == best ? theCount : size, 1, size});
+    // A package without a following level has the upper limit -1, and the rest comes to one more than the count.
+    const int rest = package == best ? 0 : VelArithmetic::difference(theCount, size);
+    if (rest > 0) {
+        answer.myPrice = VelArithmetic::sum(answer.myPrice, VelArithmetic::product(rest, best->price()));
+        answer.myCharges[answer.myChargeCount++] = items(rest);
+    }
+    return answer;
+}
+
+/// The first valid level from the place's own one downwards.
+VelTarmPriceInfo::Answer VelTarmPriceInfo::inheritedDiscount(const VelTarmPricePlace& thePlace, int theCount) const
+{
+    const Bands levels = bands(thePlace.mySource, thePlace.myModel);
     for (auto level = levels.end(); level != levels.begin();) {
         const VelTarmPriceValue& value = (--level)->myValue;
-        if (value.lowerLimit() <= theCount && (!thePackagesOnly || value.isPackagePrice()) && value.isValid())
-            return value.discountLevel();
+        if (value.discountLevel() <= thePlace.myLevel && value.isValid())
+            return answerOf(thePlace.myModel, VelArithmetic::product(theCount, value.price()),
+                            {&value, thePlace.myModel, value.discountLevel(), theCount, theCount, 1});
     }
-    return 0;
+    return answerOf(thePlace.myModel, -1,
+                    {VelTarmPriceValue::invalidPrice(), thePlace.myModel, -1, theCount, theCount, 1});
+}
+
+/// One fee for the whole quantity.
+VelTarmPriceInfo::Answer VelTarmPriceInfo::oneFee(const VelOrderSource& theSource, VelDiscountModel theModel,
+                                                  int theCount) const
+{
+    if (theCount == 0)
+        return answerOf(theModel, 0);
+    const Bands levels = bands(theSource, theModel);
+    const VelTarmPriceValue* band = reached(levels, theCount, false);
+    const VelTarmPriceValue& value = band ? *band : valueAtLevelZero(levels);
+    return answerOf(theModel, value.price(), {&value, theModel, band ? band->discountLevel() : 0, 1, 1, 1});
+}
+
+VelTarmPriceInfo::Answer VelTarmPriceInfo::billingSumTransfer(const VelOrderSource& theSource, int theBillingSum) const
+{
+    const VelDiscountModel model = DISCOUNT_MODEL_BILLING_SUM_TRANSFER;
+    if (theBillingSum == 0)
+        return answerOf(model, 0);
+    const VelTarmPriceValue* band = reached(bands(theSource, model), theBillingSum, false);
+    if (band)
+        return answerOf(model, band->price(), {band, model, band->discountLevel(), 1, 1, 1});
+    // Under every band: the count -1 reaches none there either and so asks for the level 0.
+    Answer answer = oneFee(theSource, DISCOUNT_MODEL_BULK_TRANSFER, -1);
+    answer.myModel = model;
+    return answer;
+}
+
+VelTarmBillLine VelTarmPriceInfo::line(const Charge& theCharge) const
+{
+    return {myProduct,
+            theCharge.myCountItems,
+            theCharge.myModel,
+            theCharge.myLevel,
+            theCharge.myValue->price(),
+            theCharge.myUnitCount,
+            theCharge.myItemsPerUnit,
+            theCharge.myValue->shownNonOfferPrice(),
+            false};
+}
+
+int VelTarmPriceInfo::chargeTo(VelTarmBill* theBill, const Answer& theAnswer) const
+{
+    if (theBill && theAnswer.myIsInvalid)
+        theBill->addLine(VelTarmBillLine::invalid(myProduct));
+    for (int charge = 0; theBill && charge < theAnswer.myChargeCount; ++charge)
+        theBill->addLine(line(theAnswer.myCharges[charge]));
+    return theAnswer.myPrice;
+}
+
+int VelTarmPriceInfo::chargeTo(VelTarmBillPositionList* thePositions, const Answer& theAnswer) const
+{
+    for (int charge = 0; thePositions && charge < theAnswer.myChargeCount; ++charge)
+        thePositions->append(line(theAnswer.myCharges[charge]).newPosition());
+    return theAnswer.myPrice;
 }
 
 int VelTarmPriceInfo::priceBulk(const VelTarmPriceKey& theKey, int theCount,
                                 VelTarmBillPositionList* thePositions) const
 {
-    const int level = levelReached(theKey.orderSource(), DISCOUNT_MODEL_BULK, theCount, false);
-    const VelTarmPriceValue& value = valueOrInvalid({theKey.orderSource(), DISCOUNT_MODEL_BULK, level});
-    appendPosition(thePositions, value, DISCOUNT_MODEL_BULK, level, theCount);
-    return value.isValid() ? VelArithmetic::product(theCount, value.price()) : -1;
+    return chargeTo(thePositions, bulk(theKey.orderSource(), theCount));
 }
 
 int VelTarmPriceInfo::pricePackage(const VelTarmPriceKey& theKey, int theCount,
                                    VelTarmBillPositionList* thePositions) const
 {
-    if (theCount == 0)
-        return 0;
-    const VelOrderSource source = theKey.orderSource();
-    const VelDiscountModel model = theKey.discountModel();
-    const int bestLevel = levelReached(source, model, theCount, false);
-    if (bestLevel == 0) // below the first band there is no price at all in these models
-        return -1;
-
-    const int packageLevel = levelReached(source, model, theCount, true);
-    if (packageLevel == 0)
-        return priceOfItems({source, model, bestLevel}, theCount, thePositions);
-
-    const VelTarmPriceValue& package = valueOrInvalid({source, model, packageLevel});
-    const bool holdsAll = packageLevel == bestLevel;
-    appendPackage(thePositions, package, holdsAll ? theCount : package.upperLimit());
-    if (holdsAll)
-        return package.price();
-    // A package without a following level has the upper limit -1, and the rest comes to one more than the count.
-    const int rest = VelArithmetic::difference(theCount, package.upperLimit());
-    if (rest <= 0)
-        return package.price();
-    return VelArithmetic::sum(package.price(), priceOfItems({source, model, bestLevel}, rest, thePositions));
+    return chargeTo(thePositions, package(theKey.orderSource(), theKey.discountModel(), theCount));
 }
 
 int VelTarmPriceInfo::priceInheritedDiscount(const VelTarmPriceKey& theKey, int theCount,
                                              VelTarmBillPositionList* thePositions) const
 {
-    const Bands levels = bands(theKey.orderSource(), theKey.discountModel(), 0, theKey.discountLevel());
-    for (auto level = levels.end(); level != levels.begin();) {
-        const VelTarmPriceValue& value = (--level)->myValue;
-        if (!value.isValid())
-            continue;
-        appendPosition(thePositions, value, theKey.discountModel(), value.discountLevel(), theCount);
-        return VelArithmetic::product(theCount, value.price());
-    }
-    appendPosition(thePositions, *VelTarmPriceValue::invalidPrice(), theKey.discountModel(), -1, theCount);
-    return -1;
+    return chargeTo(thePositions, inheritedDiscount(placeOf(theKey), theCount));
 }
 
 int VelTarmPriceInfo::priceExpressFee(const VelTarmPriceKey& theKey, int theCount,
                                       VelTarmBillPositionList* thePositions) const
 {
-    if (theCount == 0)
-        return 0;
-    const int level = levelReached(theKey.orderSource(), DISCOUNT_MODEL_EXPRESS_FEE, theCount, false);
-    return priceOfOneFee({theKey.orderSource(), DISCOUNT_MODEL_EXPRESS_FEE, level}, thePositions);
+    return chargeTo(thePositions, oneFee(theKey.orderSource(), DISCOUNT_MODEL_EXPRESS_FEE, theCount));
 }
 
 int VelTarmPriceInfo::priceBulkTransfer(const VelTarmPriceKey& theKey, int theCount,
                                         VelTarmBillPositionList* thePositions) const
 {
-    if (theCount == 0)
-        return 0;
-    const int level = levelReached(theKey.orderSource(), DISCOUNT_MODEL_BULK_TRANSFER, theCount, false);
-    return priceOfOneFee({theKey.orderSource(), DISCOUNT_MODEL_BULK_TRANSFER, level}, thePositions);
+    return chargeTo(thePositions, oneFee(theKey.orderSource(), DISCOUNT_MODEL_BULK_TRANSFER, theCount));
 }
 
 int VelTarmPriceInfo::priceBillingSumTransfer(const VelTarmPriceKey& theKey, int theBillingSum,
                                               VelTarmBillPositionList* thePositions) const
 {
-    if (theBillingSum == 0)
-        return 0;
-    const VelOrderSource source = theKey.orderSource();
-    const int level = levelReached(source, DISCOUNT_MODEL_BILLING_SUM_TRANSFER, theBillingSum, false);
-    if (level < 1) // under every band: the count -1 reaches none there either and so asks for the level 0
-        return priceBulkTransfer(theKey, -1, thePositions);
-    return priceOfOneFee({source, DISCOUNT_MODEL_BILLING_SUM_TRANSFER, level}, thePositions);
-}
-
-/// One fee for the whole quantity. A missing entry gives the invalid value's price, which is -1.
-int VelTarmPriceInfo::priceOfOneFee(const VelTarmPricePlace& thePlace, VelTarmBillPositionList* thePositions) const
-{
-    const VelTarmPriceValue& value = valueOrInvalid(thePlace);
-    appendPosition(thePositions, value, thePlace.myModel, thePlace.myLevel, 1);
-    return value.price();
-}
-
-/// So many items, each at the price of that place.
-int VelTarmPriceInfo::priceOfItems(const VelTarmPricePlace& thePlace, int theCount,
-                                   VelTarmBillPositionList* thePositions) const
-{
-    const VelTarmPriceValue& value = valueOrInvalid(thePlace);
-    appendPosition(thePositions, value, thePlace.myModel, thePlace.myLevel, theCount);
-    return VelArithmetic::product(theCount, value.price());
-}
-
-/// The line of one package, which stands for so many of its items.
-void VelTarmPriceInfo::appendPackage(VelTarmBillPositionList* thePositions, const VelTarmPriceValue& thePackage,
-                                     int theCountItems) const
-{
-    if (thePositions)
-        thePositions->append(new VelTarmBillPosition(theCountItems, myProduct, thePackage.discountModel(),
-                                                     thePackage.discountLevel(), thePackage.price(), 1,
-                                                     thePackage.upperLimit(), shownNonOfferPrice(thePackage)));
-}
-
-/// A line of so many items at the price of each; a null list wants none.
-void VelTarmPriceInfo::appendPosition(VelTarmBillPositionList* thePositions, const VelTarmPriceValue& theValue,
-                                      VelDiscountModel theModel, int theLevel, int theCount) const
-{
-    if (thePositions)
-        thePositions->append(new VelTarmBillPosition(theCount, myProduct, theModel, theLevel, theValue.price(),
-                                                     theCount, 1, shownNonOfferPrice(theValue)));
+    return chargeTo(thePositions, billingSumTransfer(theKey.orderSource(), theBillingSum));
 }
 
 int VelTarmPriceInfo::priceAtBound(const VelTarmPriceKey& theKey, const VelDiscountLimit& theLimit) const
 {
-    for (const VelTarmStoredPrice& price : bands(theKey.orderSource(), theLimit.discountModel(), 0, MAX_INT)) {
+    for (const VelTarmStoredPrice& price : bands(theKey.orderSource(), theLimit.discountModel())) {
         const VelTarmPriceValue& value = price.myValue;
         if (value.lowerLimit() == theLimit.lowerLimit() || value.discountLevel() == theLimit.level())
             return value.price();
@@ -536,9 +582,8 @@ int VelTarmPriceInfo::transferPriceFor(const VelTarmPriceKey& theKey, int theCou
 {
     if (myTransferModel == TRANSFER_MODEL_2) // without the unit charge, deliberately
         return baseTransferPriceInTransferModel2(theKey, theStatistic);
-    VelTarmPriceKey key(theKey);
-    key.setDiscountModel(bestDiscountModel(theKey, theCount, theBillingSum, 0));
-    return priceInModel(key, theCount, theBillingSum, nullptr);
+    const VelDiscountModel model = bestDiscountModel(theKey, theCount, theBillingSum, 0);
+    return answer({theKey.orderSource(), model, theKey.discountLevel()}, theCount, theBillingSum).myPrice;
 }
 
 int VelTarmPriceInfo::priceInTransferModel2(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic,
@@ -547,11 +592,8 @@ int VelTarmPriceInfo::priceInTransferModel2(const VelTarmPriceKey& theKey, const
     const VelTarmPriceKey baseKey(theKey, DISCOUNT_MODEL_BULK);
     const int total = VelArithmetic::sum(baseTransferPriceInTransferModel2(baseKey, theStatistic),
                                          unitTransferPriceInTransferModel2(baseKey, theStatistic));
-    if (theBill) {
-        VelTarmBillPositionList positions;
-        positions.append(new VelTarmBillPosition(1, myProduct, DISCOUNT_MODEL_TRANSFER_2, 0, total, 1, 1, -1));
-        theBill->addOrderPositions(positions);
-    }
+    if (theBill)
+        theBill->addLine({myProduct, 1, DISCOUNT_MODEL_TRANSFER_2, 0, total, 1, 1, -1, false});
     return total;
 }
 
@@ -561,8 +603,9 @@ int VelTarmPriceInfo::baseTransferPriceInTransferModel2(const VelTarmPriceKey& t
     if (!theStatistic)
         return 0;
     int highest = 0;
-    for (const VelProductAbstract* product : theStatistic->products())
-        highest = qMax(highest, product->baseTransferPrice(theKey));
+    const QMap<VelProductAbstract*, int> items = theStatistic->items();
+    for (auto item = items.cbegin(); item != items.cend(); ++item)
+        highest = qMax(highest, item.key()->baseTransferPrice(theKey));
     return highest;
 }
 
@@ -572,15 +615,21 @@ int VelTarmPriceInfo::unitTransferPriceInTransferModel2(const VelTarmPriceKey& t
     if (!theStatistic)
         return 0;
     int sum = 0;
-    const VelProductAbstract* leader = nullptr;
+    int leadersUnitPrice = 0;
+    int highest = 0;
+    bool hasLeader = false;
     const QMap<VelProductAbstract*, int> items = theStatistic->items();
     for (auto item = items.cbegin(); item != items.cend(); ++item) {
-        const VelProductAbstract* product = item.key();
-        if (!leader || leader->baseTransferPrice(theKey) < product->baseTransferPrice(theKey))
-            leader = product;
-        sum = VelArithmetic::sum(sum, VelArithmetic::product(product->unitTransferPrice(theKey), item.value()));
+        const int basePrice = item.key()->baseTransferPrice(theKey);
+        const int unitPrice = item.key()->unitTransferPrice(theKey);
+        if (!hasLeader || highest < basePrice) { // of equal ones the first stays in the lead
+            hasLeader = true;
+            highest = basePrice;
+            leadersUnitPrice = unitPrice;
+        }
+        sum = VelArithmetic::sum(sum, VelArithmetic::product(unitPrice, item.value()));
     }
-    return leader ? VelArithmetic::difference(sum, leader->unitTransferPrice(theKey)) : sum;
+    return VelArithmetic::difference(sum, leadersUnitPrice);
 }
 
 int VelTarmPriceInfo::baseTransferPrice(const VelTarmPriceKey& theKey) const

@@ -1,6 +1,7 @@
 #ifndef VELTARMPRICEINFO_H
 #define VELTARMPRICEINFO_H
 
+#include "bill/VelTarmBillLine.h"
 #include "price/VelTarmPriceKey.h"
 #include "price/VelTarmPriceValue.h"
 #include "price/VelTarmStoredPrice.h"
@@ -8,6 +9,8 @@
 #include <QList>
 #include <QSet>
 
+#include <array>
+#include <cstddef>
 #include <vector>
 
 class VelOrderStatistic;
@@ -32,6 +35,9 @@ class VelTarmPriceInfo
     Q_DISABLE_COPY(VelTarmPriceInfo)
 
 public:
+    /// The order sources that prices can stand under.
+    static constexpr std::size_t SHELVES = 9;
+
     /// Reads the prices of an article's element. The product is borrowed.
     VelTarmPriceInfo(VelProductAbstract* theProduct, const QDomElement& theArticle);
 
@@ -130,42 +136,67 @@ public:
 private:
     using Prices = std::vector<VelTarmStoredPrice>;
 
-    /// Consecutive levels of one order source and model, rising.
+    /// Neighbours in the store, in its order.
     struct Bands
     {
-        Prices::const_iterator myBegin;
-        Prices::const_iterator myEnd;
-        Prices::const_iterator begin() const { return myBegin; }
-        Prices::const_iterator end() const { return myEnd; }
+        const VelTarmStoredPrice* myBegin;
+        const VelTarmStoredPrice* myEnd;
+        const VelTarmStoredPrice* begin() const { return myBegin; }
+        const VelTarmStoredPrice* end() const { return myEnd; }
     };
 
-    Prices::const_iterator firstNotBefore(const VelTarmPricePlace& thePlace) const;
+    /// A line that a rule asks for, while nobody has said yet whether it goes to a bill.
+    struct Charge
+    {
+        const VelTarmPriceValue* myValue;
+        VelDiscountModel myModel;
+        int myLevel;
+        int myCountItems;
+        int myUnitCount;
+        int myItemsPerUnit;
+    };
+
+    /// What the rule of a model answers; a package with a rest makes two charges. An invalid one has no rule at all.
+    struct Answer
+    {
+        VelDiscountModel myModel;
+        int myPrice; ///< cents, -1 for no price
+        bool myIsInvalid;
+        int myChargeCount;
+        Charge myCharges[2];
+    };
+
+    /// All prices of an order source, and the levels from 0 up of one of its models.
+    Bands shelf(const VelOrderSource& theSource) const;
+    Bands bands(const VelOrderSource& theSource, VelDiscountModel theModel) const;
     VelTarmPriceValue* find(const VelTarmPricePlace& thePlace) const;
     VelTarmPriceValue& valueOrInvalid(const VelTarmPricePlace& thePlace) const;
     VelTarmPriceValue& baseValue(const VelTarmPriceKey& theKey) const;
-    Bands bands(const VelOrderSource& theSource, VelDiscountModel theModel, int theLowestLevel,
-                int theHighestLevel) const;
     int itemsAtUpperBound(const VelTarmPricePlace& thePlace) const;
     void readGroup(const QDomElement& theGroup);
     void readEntry(const QDomElement& theEntry);
     void settle();
 
-    VelDiscountModel searchBestModel(VelTarmPriceKey& theWorkingKey, int theCount, int theBillingSum,
-                                     int theInheritedLevel) const;
-    int levelReached(const VelOrderSource& theSource, VelDiscountModel theModel, int theCount,
-                     bool thePackagesOnly) const;
+    static const VelTarmPriceValue* reached(const Bands& theBands, int theCount, bool thePackagesOnly);
+    static const VelTarmPriceValue& valueAtLevelZero(const Bands& theBands);
+    static Answer noAnswer();
+    static Answer answerOf(VelDiscountModel theModel, int thePrice);
+    static Answer answerOf(VelDiscountModel theModel, int thePrice, const Charge& theCharge);
     int inheritedLevel(const VelTarmBill* theBill) const;
-    int applyRule(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
-                  VelTarmBillPositionList* thePositions) const;
-    int priceOfOneFee(const VelTarmPricePlace& thePlace, VelTarmBillPositionList* thePositions) const;
-    int priceOfItems(const VelTarmPricePlace& thePlace, int theCount, VelTarmBillPositionList* thePositions) const;
-    void appendPackage(VelTarmBillPositionList* thePositions, const VelTarmPriceValue& thePackage,
-                       int theCountItems) const;
-    void appendPosition(VelTarmBillPositionList* thePositions, const VelTarmPriceValue& theValue,
-                        VelDiscountModel theModel, int theLevel, int theCount) const;
+    Answer bestAnswer(const VelOrderSource& theSource, int theCount, int theBillingSum, int theInheritedLevel) const;
+    Answer answer(const VelTarmPricePlace& thePlace, int theCount, int theBillingSum) const;
+    Answer bulk(const VelOrderSource& theSource, int theCount) const;
+    Answer package(const VelOrderSource& theSource, VelDiscountModel theModel, int theCount) const;
+    Answer inheritedDiscount(const VelTarmPricePlace& thePlace, int theCount) const;
+    Answer oneFee(const VelOrderSource& theSource, VelDiscountModel theModel, int theCount) const;
+    Answer billingSumTransfer(const VelOrderSource& theSource, int theBillingSum) const;
+    VelTarmBillLine line(const Charge& theCharge) const;
+    int chargeTo(VelTarmBill* theBill, const Answer& theAnswer) const;
+    int chargeTo(VelTarmBillPositionList* thePositions, const Answer& theAnswer) const;
 
     VelProductAbstract* myProduct;
-    Prices myPrices;               ///< sorted by place, each place once
+    Prices myPrices;                                  ///< sorted by place, each place once
+    std::array<quint32, SHELVES + 2> myShelfBegins{}; ///< where each order source begins, and the end twice
     unsigned myDiscountModels = 0; ///< the models that occur in entries, as bits: bit n for the model n
     int myMaxDiscountLevel = 0;
     VelTransferModel myTransferModel = TRANSFER_MODEL_UNDEFINED;

@@ -17,6 +17,7 @@
 class VELTARM_EXPORT VelTarmPriceKey
 {
 public:
+    /// The parts as they are given.
     VelTarmPriceKey(const VelOrderSource& theOrderSource, int theDiscountLevel, VelDiscountModel theDiscountModel)
         : myImpl(new VelTarmPriceKeyImpl(theOrderSource, theDiscountLevel, theDiscountModel))
     {
@@ -32,17 +33,21 @@ public:
 
     VelTarmPriceKey& operator=(const VelTarmPriceKey&) = default;
 
+    /// Another level from 0 up; -1 is wild in a pattern.
     void setDiscountLevel(int theDiscountLevel)
     {
         myImpl->myDiscountLevel = theDiscountLevel;
         myImpl->myHashValue = 0;
     }
+
+    /// Another model; DISCOUNT_MODEL_UNDEFINED is wild in a pattern.
     void setDiscountModel(VelDiscountModel theDiscountModel)
     {
         myImpl->myDiscountModel = theDiscountModel;
         myImpl->myHashValue = 0;
     }
 
+    /// The parts, and the two halves of the order source.
     VelOrderSource orderSource() const { return myImpl->myOrderSource; }
     VelInputSource inputSource() const { return myImpl->myOrderSource.inputSource(); }
     VelDeliveryType deliveryType() const { return myImpl->myOrderSource.deliveryType(); }
@@ -53,6 +58,7 @@ public:
     /// keys may hash alike.
     unsigned hashValue() const;
 
+    /// By the parts, nothing being wild.
     bool operator==(const VelTarmPriceKey& theOther) const;
     bool operator!=(const VelTarmPriceKey& theOther) const { return !(*this == theOther); }
 

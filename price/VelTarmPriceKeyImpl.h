@@ -9,11 +9,13 @@
 class VelTarmPriceKeyImpl : public QSharedData
 {
 public:
+    /// The parts as they are given.
     VelTarmPriceKeyImpl(const VelOrderSource& theOrderSource, int theDiscountLevel, VelDiscountModel theDiscountModel)
         : myOrderSource(theOrderSource), myDiscountLevel(theDiscountLevel), myDiscountModel(theDiscountModel)
     {
     }
 
+    /// The parts; whoever changes one resets the hash value.
     VelOrderSource myOrderSource;
     int myDiscountLevel;
     VelDiscountModel myDiscountModel;

@@ -20,7 +20,7 @@ const QDateTime& defaultEndOfOffer()
 } // namespace
 
 VelTarmPriceValue::VelTarmPriceValue(const QDomElement& theEntry)
-    : myPrice(VelXMLParser::intAttribute(theEntry, STR_PRICE, -1))
+    : myPrice(VelXMLParser::intAttribute(theEntry, STR_PRICE, NO_PRICE))
     , myDiscountLimit(theEntry)
     , myUnitTransferPrice(VelXMLParser::intAttribute(theEntry, STR_TRANSFER_UNIT_PRICE, 0))
     , myBaseTransferPrice(VelXMLParser::intAttribute(theEntry, STR_TRANSFER_BASE_PRICE, 0))
@@ -40,4 +40,12 @@ bool VelTarmPriceValue::operator==(const VelTarmPriceValue& theOther) const
     return myPrice == theOther.myPrice && myDiscountLimit == theOther.myDiscountLimit &&
            myUnitTransferPrice == theOther.myUnitTransferPrice && myBaseTransferPrice == theOther.myBaseTransferPrice &&
            myNonOfferPrice == theOther.myNonOfferPrice && myEndOfferDate == theOther.myEndOfferDate;
+}
+
+/// The clock is read only where there is an old price to show.
+int VelTarmPriceValue::shownNonOfferPrice() const
+{
+    if (myNonOfferPrice == -1)
+        return -1;
+    return QDateTime::currentMSecsSinceEpoch() < myEndOfferDate.toMSecsSinceEpoch() ? myNonOfferPrice : -1;
 }

@@ -20,8 +20,9 @@ public:
 
     /// Whether the value differs from invalidPrice(), the upper limit included. So an entry that says nothing is
     /// invalid until a following level gives it an upper limit, and a price of -1 alone does not make one invalid.
-    bool isValid() const { return *this != *invalidPrice(); }
+    bool isValid() const { return myPrice != NO_PRICE || *this != *invalidPrice(); }
 
+    /// By all fields; a pointer stands for what it points to.
     bool operator==(const VelTarmPriceValue& theOther) const;
     bool operator!=(const VelTarmPriceValue& theOther) const { return !(*this == theOther); }
     bool operator==(const VelTarmPriceValue* theOther) const { return *this == *theOther; }
@@ -38,17 +39,27 @@ public:
 
     /// Cents that are shown as the old price while the offer runs; -1 for none.
     int nonOfferPrice() const { return myNonOfferPrice; }
+
+    /// When the offer ends; the Unix epoch without one.
     QDateTime endOfferDate() const { return myEndOfferDate; }
 
+    /// nonOfferPrice() for as long as the offer runs, then -1. The amount itself is not touched by an offer.
+    int shownNonOfferPrice() const;
+
+    /// When the price holds, and the parts of that as VelDiscountLimit states them.
     VelDiscountLimit discountLimit() const { return myDiscountLimit; }
     VelDiscountModel discountModel() const { return myDiscountLimit.discountModel(); }
     int lowerLimit() const { return myDiscountLimit.lowerLimit(); }
     int upperLimit() const { return myDiscountLimit.upperLimit(); }
     int discountLevel() const { return myDiscountLimit.level(); }
     bool isPackagePrice() const { return myDiscountLimit.isPackage(); }
+
+    /// Closes the band; -1 leaves it open.
     void setUpperLimit(int theUpperLimit) { myDiscountLimit.setUpperLimit(theUpperLimit); }
 
 private:
+    static constexpr int NO_PRICE = -1;
+
     int myPrice;
     VelDiscountLimit myDiscountLimit;
     int myUnitTransferPrice;

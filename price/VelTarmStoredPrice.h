@@ -10,17 +10,13 @@ struct VelTarmPricePlace
     VelOrderSource mySource;
     VelDiscountModel myModel;
     int myLevel;
-
-    /// Sorts the levels of one order source and model side by side.
-    bool operator<(const VelTarmPricePlace& theOther) const
-    {
-        if (mySource != theOther.mySource)
-            return mySource < theOther.mySource;
-        if (myModel != theOther.myModel)
-            return myModel < theOther.myModel;
-        return myLevel < theOther.myLevel;
-    }
 };
+
+/// Sorts the levels of one model side by side, as one number.
+inline qint64 rankOf(VelDiscountModel theModel, int theLevel)
+{
+    return static_cast<qint64>(theModel) * (Q_INT64_C(1) << 32) + theLevel;
+}
 
 /// One order source's copy of a price entry. Model and level are those of the value itself.
 struct VelTarmStoredPrice
@@ -28,7 +24,13 @@ struct VelTarmStoredPrice
     VelOrderSource mySource;
     VelTarmPriceValue myValue;
 
+    qint64 rank() const { return rankOf(myValue.discountModel(), myValue.discountLevel()); }
     VelTarmPricePlace place() const { return {mySource, myValue.discountModel(), myValue.discountLevel()}; }
+
+    bool operator<(const VelTarmStoredPrice& theOther) const
+    {
+        return mySource != theOther.mySource ? mySource < theOther.mySource : rank() < theOther.rank();
+    }
 };
 
 Q_DECLARE_TYPEINFO(VelTarmStoredPrice, Q_MOVABLE_TYPE);

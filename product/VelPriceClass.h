@@ -9,10 +9,14 @@
 class VELTARM_EXPORT VelPriceClass
 {
 public:
+    /// Holds the text as it stands.
     explicit VelPriceClass(const QString& thePriceClass) { setPriceClass(thePriceClass); }
 
+    /// Replaces the text, and gives it back.
     void setPriceClass(const QString& thePriceClass) { myPriceClass = thePriceClass; }
     QString toString() const { return myPriceClass; }
+
+    /// By the text, exactly.
     bool operator==(const VelPriceClass& theOther) const { return myPriceClass == theOther.myPriceClass; }
     bool operator!=(const VelPriceClass& theOther) const { return !(*this == theOther); }
 

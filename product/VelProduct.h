@@ -7,6 +7,7 @@
 class VELTARM_EXPORT VelProduct : public VelProductAbstract
 {
 public:
+    /// Reads an element of the price list.
     explicit VelProduct(const QDomElement& theElement) : VelProductAbstract(theElement, PRODUCT_CLASS_PRODUCT) {}
 
     /// The name, followed by the name of the shipping group in brackets.

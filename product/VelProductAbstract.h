@@ -45,6 +45,7 @@ public:
 
     /// Reads an element of the price list; the class stays for the object's life.
     VelProductAbstract(const QDomElement& theElement, VelProductClass theProductClass);
+
     virtual ~VelProductAbstract();
 
     /// Products have addresses in a fixed order, see VelProductStorage.
@@ -56,6 +57,8 @@ public:
 
     /// The price of one piece under the global status.
     virtual int price() const;
+
+    /// What so many pieces cost under the key. The billing sum, in cents, counts for shipping by bill sum alone.
     virtual int price(const VelTarmPriceKey& theKey, int theCount, int theBillingSum) const;
 
     /// The lowest of minPriceFor over the four standard ways of ordering; 2147483647 when no price was found.
@@ -67,20 +70,33 @@ public:
 
     /// The highest price of one piece over the four standard ways of ordering; a way without a price counts -1.
     virtual int priceFirstFit() const;
+
+    /// Attribute `id`, 0 when missing.
     virtual int articleID() const;
+
+    /// The name; a plain product adds its shipping group.
     virtual QString fullQualifiedName() const { return name(); }
+
+    /// The lines of the order text: head (also an empty one), values, description with the name.
     virtual QStringList toOrderTxt() const;
+
+    /// The print size at printDPI().
     virtual QSize printPixelSize() const;
 
     /// A photo product turned to the orientation of the reference; all others keep theirs. A square is not landscape.
     virtual QSize printPixelSize(const QSize& theReference) const;
+
+    /// The print size in millimetres, (0, 0) when the document says none.
     virtual QSize printSizeInMM() const;
+
+    /// Pixels per inch, 300 when the document says nothing.
     virtual int printDPI() const;
 
     /// What a reload runs on an existing product. Not virtual, deliberately: what the constructors of subclasses read
     /// keeps its first value. A real element revives the product, a null one leaves it deprecated.
     void update(const QDomElement& theElement);
 
+    /// The product's own article, never null; its class is internal.
     VelTarmArticle* tarmArticle() const { return myArticle; }
 
     /// Attribute `group`, -1 when missing.
@@ -99,17 +115,21 @@ public:
     bool isDeprecated() const { return myIsDeprecated; }
     void setDeprecated(bool theIsDeprecated) { myIsDeprecated = theIsDeprecated; }
 
-    /// Whether the product's class and the mask share a bit.
+    /// Whether the product's class and the mask share a bit; and the same for two masks.
     bool isProductClass(VelProductClass theMask) const { return (myProductClass & theMask) != 0; }
     bool isPrintFunProduct() const { return isProductClass(PRODUCT_CLASS_PRINT_FUN_MASK); }
     bool isKindOfBook() const { return isProductClass(PRODUCT_CLASS_FOTO_BOOK); }
 
     /// Whether the group is one of the photo and poster groups.
     bool isFotoProduct() const;
+
+    /// Whether the group, or mask, matches the product's one.
     bool isProductGroup(const VelProductGroup& theGroup) const { return theGroup.matches(myProductGroup); }
 
     /// The article's name, with a translated suffix on a deprecated product.
     QString name() const;
+
+    /// Attribute `editor_name`: the name shown in the editor and on bills.
     QString editorName() const;
 
     /// The order-text head without its brackets, or the order-text type when that is empty.
@@ -118,6 +138,7 @@ public:
     /// Whether the product is current and the key account sells its shipping group.
     bool isOrderable() const;
 
+    /// The order text: its head line with the brackets, and the value of a key such as STR_TYPE; empty for none.
     QString orderTxtHead() const;
     QString orderTxtValue(const QString& theKey) const;
     QString orderTxtType() const { return orderTxtValue(STR_TYPE); }
@@ -139,22 +160,39 @@ public:
     /// Whether there is a price at a point of sale.
     bool orderableViaPOS() const;
 
-    /// These pass on to the article.
+    /// As price(), the positions going to the bill and inherited discounts being looked up in it; without for null.
     int priceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum, VelTarmBill* theBill,
                  const VelOrderStatistic* theStatistic) const;
+
+    /// Of a transfer product: shipping without a bill. Under TRANSFER_MODEL_2 the first is the base charge alone and
+    /// the second the charge for further items.
     int transferPriceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
                          const VelOrderStatistic* theStatistic) const;
     int unitTransferPriceFor(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic) const;
+
+    /// The bands that the pattern covers, and the price of one band. A base limit stays only while it is the last limit
+    /// of its model.
     QSet<VelDiscountLimit> discountLimits(const VelTarmPriceKey& theKey) const;
     int priceAtBound(const VelTarmPriceKey& theKey, const VelDiscountLimit& theLimit) const;
+
+    /// How the shipping computes, as its entries say it, and the charges `transfer_base_price` and
+    /// `transfer_unit_price` of the product's base entry, 0 without one.
     VelTransferModel transferModel() const;
     int baseTransferPrice(const VelTarmPriceKey& theKey) const;
     int unitTransferPrice(const VelTarmPriceKey& theKey) const;
+
+    /// Of the base entry: the old price of one piece, -1 for none, and when its offer ends. Whether the offer still
+    /// runs isn't looked at.
     int nonOfferPrice(const VelTarmPriceKey& theKey) const;
     QDateTime endOfferDate(const VelTarmPriceKey& theKey) const;
+
+    /// The days of production and shipping; without an entry of both types the time is invalid and the type can't be
+    /// had.
     bool shippingTimesEnabled() const;
     VelTarmShippingTime shippingTime(VelDeliveryType theDeliveryType, VelExpressType theExpressType) const;
     bool isExpressable(VelDeliveryType theDeliveryType, VelExpressType theExpressType) const;
+
+    /// Rates an image of so many pixels per millimetre: -1 not rated (0 or below), 0 red, 1 yellow, 2 green.
     int qualityOnScaleForPPMM(double thePPMM) const;
 
     /// The one product that stands for none: deprecated, without a class. Built on first use without a lock, never

@@ -11,6 +11,7 @@
 class VELTARM_EXPORT VelProductAddOn : public VelProductAbstract
 {
 public:
+    /// Reads an element `add_on`.
     explicit VelProductAddOn(const QDomElement& theElement);
 
     /// Add-ons have addresses above all main products, see VelProductStorage.
@@ -22,14 +23,20 @@ public:
 
     /// Attribute `product_class`: the add-on's kind as a word; null when missing.
     QString productClass() const { return myProductClassWord; }
+
+    /// Whether the main product is one of articleIDs().
     bool isCompatibleWithArticleId(int theArticleID) const { return myArticleIDs.contains(theArticleID); }
 
     /// Compatible with the article, and of that product class, case-sensitively.
     bool matches(int theArticleID, const QString& theProductClass) const;
+
+    /// Whether the product class is "ANG1".
     bool requirement() const;
 
     /// Whether the customer may pick the add-on himself: a closed list of product classes.
     bool isOrderableByUser() const;
+
+    /// Whether the product class is "10" or "20".
     bool isFreeTheme() const;
 
     /// The product class of the map add-on, and that of the video add-on.

@@ -11,6 +11,7 @@
 class VELTARM_EXPORT VelProductPrintFun : public VelProductAbstract
 {
 public:
+    /// Reads an element of the price list; the class is one of PRODUCT_CLASS_PRINT_FUN_MASK.
     VelProductPrintFun(const QDomElement& theElement, VelProductClass theProductClass);
 
     /// From the order-text line TYPE=; unknown when the table of types doesn't hold it.

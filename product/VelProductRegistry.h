@@ -43,6 +43,7 @@ public:
     /// A registry beside the application's one, loaded from the current key account and owned by the caller. Prices of
     /// add-ons look their main products up in instance().
     VelProductRegistry();
+
     ~VelProductRegistry() override;
 
     /// Every main product and add-on ever read, in order of first appearance.
@@ -62,6 +63,8 @@ public:
 
     /// The only book of the type; null also when there are two or more, which is meant.
     VelProductPrintFun* findFotoBook(const VelProductType& theType) const;
+
+    /// The first calendar of the type.
     VelProductAbstract* findCalendar(const VelProductType& theType) const;
 
     /// The first print-fun product of the type whose order-text type is the type's name.
@@ -70,7 +73,8 @@ public:
     /// The first product of that order-text type. Once found it is answered for ever, deprecated or not.
     VelProductAbstract* findProductWithOrderTXTType(const QString& theType) const;
 
-    /// The first product of the group with that order-text head, and that BORDER= value; null for an empty head.
+    /// The first product of the group with that order-text head, and if given that BORDER= value; null for an empty
+    /// head.
     VelProductAbstract* findProductWithOrderTXTHead(const QString& theHead, const VelProductGroup& theGroup) const;
     VelProductAbstract* findProductWithOrderTXTHead(const QString& theHead, const VelProductGroup& theGroup,
                                                     const QString& theBorder) const;
@@ -84,19 +88,24 @@ public:
 
     // ---- the add-ons of a main product, which is given by its article ID
 
-    /// The first add-on that fits the article and has that product class; findContent is the same query.
+    /// The first add-on that fits the article, or the type's product, and has that product class.
     VelProductAddOn* supplement(int theArticleID, const QString& theProductClass) const;
     VelProductAddOn* findContent(int theArticleID, const QString& theProductClass) const;
     VelProductAddOn* findContent(const VelProductType& theType, const QString& theProductClass) const;
     bool productHasSupplement(int theArticleID, const QString& theProductClass) const;
+
+    /// All add-ons that fit the article.
     QList<VelProductAddOn*> possibleAddOns(int theArticleID) const;
 
     /// Of the possible add-ons those that the customer may pick himself.
     QList<VelProductAddOn*> possibleSupplements(int theArticleID) const;
+
+    /// The frames among them, and the first page package.
     QList<VelProductAddOn*> findPossibleFrames(int theArticleID) const;
     VelProductAddOn* findPagePackage(int theArticleID) const;
 
-    /// The video add-on of the type's book, and its price as text in the primary currency (null without one).
+    /// The video add-on of the type's book, whether there is one, and its price as text in the primary currency (null
+    /// without one).
     VelProductAddOn* qrCodeSupplement(const VelProductType& theType) const;
     bool qrCodeAllowed(const VelProductType& theType) const;
     QString qrCodePriceText(const VelProductType& theType) const;
@@ -107,8 +116,11 @@ public:
     /// same object at each call.
     VelProductList* productsOfType(const VelProductType& theType) const;
 
+    /// The books, of all types or of one.
     QList<VelProductPrintFun*> fotoBooks() const;
     QList<VelProductPrintFun*> fotoBooks(const VelProductType& theType) const;
+
+    /// All products of that order-text type.
     VelProductList findProductListWithOrderTxtType(const QString& theType) const;
 
     /// The main products of a shipping group; with theIncludeAddOns every add-on, whatever its group. Sorted by
@@ -132,11 +144,17 @@ public:
 
     /// Whether some product has exactly that group value; a mask matches nothing here.
     bool containsProductGroup(const VelProductGroup& theGroup) const;
+
+    /// Whether any product has shipping times.
     bool shippingTimesEnabled() const;
+
+    /// Whether a main product of the shipping group is a plain one.
     bool shippingGroupHasNonPrintFunProducts(int theId) const;
 
     /// Whether a product of the shipping group, or an add-on, has a band of the model under the key.
     bool containsDiscountModel(int theShippingGroupId, const VelTarmPriceKey& theKey, VelDiscountModel theModel) const;
+
+    /// VelProductGroup::matches.
     bool groupsMatch(const VelProductGroup& theLeft, const VelProductGroup& theRight) const;
 
     // ---- fees
@@ -163,10 +181,14 @@ public:
 
     /// Takes ownership of a new product; null is ignored.
     void insertProduct(VelProductAbstract* theProduct);
+
+    /// Every product; those that a reload then reads are revived.
     void setProductsDeprecated();
 
     /// A new product owned by the caller, or null.
     VelProductAbstract* buildAbstractProduct(const QDomElement& theElement) const;
+
+    /// These read the fee products of one section each.
     void readTransferPrices(const QDomElement& theSection);
     void readAdditionalPaymentFees(const QDomElement& theSection);
     void readExpressFees(const QDomElement& theSection);

@@ -14,11 +14,16 @@ class VelProductPrintFun;
 class VELTARM_EXPORT VelProductRegistryFotoBookCache
 {
 public:
+    /// The two as one key; types are equal by value, whatever their texts.
     QPair<VelProductType, int> makeKey(const VelProductType& theType, int thePages) const;
 
     /// Null when nothing is stored.
     VelProductPrintFun* find(const VelProductType& theType, int thePages) const;
+
+    /// Replaces what was stored for the two; null is stored as well.
     void insert(const VelProductType& theType, int thePages, VelProductPrintFun* theProduct);
+
+    /// Forgets everything.
     void clear() { myCache.clear(); }
 
 private:

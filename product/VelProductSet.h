@@ -12,16 +12,22 @@
 class VELTARM_EXPORT VelProductSet
 {
 public:
+    /// Collects the products of the type.
     explicit VelProductSet(const VelProductType& theType);
 
     /// The registry's products whose order-text type is the type's name.
     VelProductList collectProducts(const VelProductType& theType) const;
 
+    /// The type that it was made for.
     VelProductType productType() const { return myProductType; }
+
+    /// Whether there is a choice: more than one product.
     bool hasVariants() const { return myProducts.size() > 1; }
 
     /// The scale of the first product. The set must not be empty.
     QString firstValue() const;
+
+    /// Whether the product is one of the set.
     bool contains(VelProductAbstract* theProduct) const { return myProducts.contains(theProduct); }
 
     /// The first product of exactly that scale, null when there is none.

@@ -2,6 +2,7 @@
 
 #include <QDebug>
 
+#include <array>
 #include <cstddef>
 #include <cstdlib>
 #include <functional>
@@ -10,8 +11,8 @@
 namespace {
 
 // Reserved once as address space; the system gives memory only to what is used. Room for about 500,000 products.
-const std::size_t MAIN_PRODUCTS_SIZE = 64 * 1024 * 1024;
-const std::size_t ADD_ONS_SIZE = 32 * 1024 * 1024;
+const std::size_t SHELF_SIZES[] = {64 * 1024 * 1024, 32 * 1024 * 1024, 192 * 1024 * 1024};
+const std::size_t BLOCK_SIZE = SHELF_SIZES[0] + SHELF_SIZES[1] + SHELF_SIZES[2];
 
 struct ShelfSpace
 {
@@ -21,16 +22,25 @@ struct ShelfSpace
 
 char* reservedBlock()
 {
-    static char* const block = static_cast<char*>(std::malloc(MAIN_PRODUCTS_SIZE + ADD_ONS_SIZE));
+    static char* const block = static_cast<char*>(std::malloc(BLOCK_SIZE));
     return block;
 }
 
-ShelfSpace& space(VelProductStorage::Shelf theShelf)
+std::array<ShelfSpace, VelProductStorage::SHELVES> emptyShelves()
 {
-    static char* const block = reservedBlock();
-    static ShelfSpace mainProducts{block, block ? block + MAIN_PRODUCTS_SIZE : nullptr};
-    static ShelfSpace addOns{mainProducts.myEnd, block ? mainProducts.myEnd + ADD_ONS_SIZE : nullptr};
-    return theShelf == VelProductStorage::SHELF_ADD_ONS ? addOns : mainProducts;
+    std::array<ShelfSpace, VelProductStorage::SHELVES> shelves{};
+    char* next = reservedBlock();
+    for (std::size_t shelf = 0; next && shelf < shelves.size(); ++shelf) {
+        shelves[shelf] = {next, next + SHELF_SIZES[shelf]};
+        next += SHELF_SIZES[shelf];
+    }
+    return shelves;
+}
+
+std::array<ShelfSpace, VelProductStorage::SHELVES>& shelves()
+{
+    static std::array<ShelfSpace, VelProductStorage::SHELVES> theShelves = emptyShelves();
+    return theShelves;
 }
 
 std::size_t aligned(std::size_t theSize)
@@ -43,7 +53,7 @@ bool isOnAShelf(const char* theObject)
 {
     const char* block = reservedBlock();
     const std::less<const char*> isBelow;
-    return block && !isBelow(theObject, block) && isBelow(theObject, block + MAIN_PRODUCTS_SIZE + ADD_ONS_SIZE);
+    return block && !isBelow(theObject, block) && isBelow(theObject, block + BLOCK_SIZE);
 }
 
 void* heapRoom(std::size_t theSize)
@@ -59,7 +69,7 @@ void* heapRoom(std::size_t theSize)
 
 void* VelProductStorage::allocate(Shelf theShelf, std::size_t theSize)
 {
-    ShelfSpace& shelf = space(theShelf);
+    ShelfSpace& shelf = shelves()[theShelf];
     const std::size_t size = aligned(theSize);
     if (!shelf.myNext || static_cast<std::size_t>(shelf.myEnd - shelf.myNext) < size)
         return heapRoom(theSize);
@@ -75,10 +85,10 @@ void VelProductStorage::release(void* theObject, std::size_t theSize)
         ::operator delete(theObject);
         return;
     }
-    for (const Shelf shelf : {SHELF_MAIN_PRODUCTS, SHELF_ADD_ONS}) {
-        if (object + aligned(theSize) == space(shelf).myNext) {
-            space(shelf).myNext = object;
-            return; // empty add-ons begin where full main products end
+    for (ShelfSpace& shelf : shelves()) {
+        if (object + aligned(theSize) == shelf.myNext) {
+            shelf.myNext = object;
+            return; // an empty shelf begins where the full one before it ends
         }
     }
 }

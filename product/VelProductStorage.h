@@ -14,7 +14,10 @@
  */
 namespace VelProductStorage {
 
-enum Shelf { SHELF_MAIN_PRODUCTS, SHELF_ADD_ONS };
+/// Articles have a shelf of their own for another reason: pricing walks from product to article, and neighbours are
+/// near to reach.
+enum Shelf { SHELF_MAIN_PRODUCTS, SHELF_ADD_ONS, SHELF_ARTICLES };
+const int SHELVES = 3;
 
 /// Room for one object, never null.
 void* allocate(Shelf theShelf, std::size_t theSize);

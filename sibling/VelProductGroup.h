@@ -9,13 +9,14 @@ class VELSIBLING_EXPORT VelProductGroup
 {
 public:
     /// Of one group, or of a mask.
-    VelProductGroup(VelProductGroupEnum theValue);
+    VelProductGroup(VelProductGroupEnum theValue) : myValue(theValue) {}
 
+    /// The group, or the mask of several.
     VelProductGroupEnum value() const { return myValue; }
 
     /// The two have a bit in common; so the unknown group, which has none, matches nothing.
-    bool matches(VelProductGroupEnum theMask) const;
-    bool matches(const VelProductGroup& theOther) const;
+    bool matches(VelProductGroupEnum theMask) const { return (myValue & theMask) != 0; }
+    bool matches(const VelProductGroup& theOther) const { return matches(theOther.myValue); }
 
 private:
     VelProductGroupEnum myValue;
