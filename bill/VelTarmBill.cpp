@@ -1,5 +1,6 @@
 #include "bill/VelTarmBill.h"
 
+#include "bill/VelTarmBillEntry.h"
 #include "bill/VelTarmBillPosition.h"
 #include "frame/EnumHelper.h"
 #include "frame/VelArithmetic.h"
@@ -168,6 +169,11 @@ void VelTarmBill::dump() const
 }
 
 // ---- changing
+
+void VelTarmBill::addLine(const VelTarmBillLine& theLine)
+{
+    myEntries.emplace_back(theLine);
+}
 
 void VelTarmBill::addOrderPositions(const VelTarmBillPositionList& thePositions)
 {

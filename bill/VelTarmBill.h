@@ -2,7 +2,6 @@
 #define VELTARMBILL_H
 
 #include "bill/VelOrderStatistic.h"
-#include "bill/VelTarmBillEntry.h"
 #include "bill/VelTarmBillPositionList.h"
 #include "frame/VelExpressType.h"
 #include "frame/VelTarmExport.h"
@@ -15,7 +14,9 @@
 #include <vector>
 
 class VelProductAbstract;
+class VelTarmBillEntry;
 class VelTarmBillPosition;
+struct VelTarmBillLine;
 
 /**
  * The cart of one shipping group in money: items, transfer fee (shipping), payment agio, express agio, total. All
@@ -41,14 +42,15 @@ public:
     /// One sold piece, as the description of discounts sees it.
     struct DiscountInformation
     {
-        VelDiscountModel discountModel;
-        int discountLevel;
-        bool isPackage;
-        int unitPrice; ///< cents for this piece; the first of a package carries all of its price, the others 0
-        bool isTransferModel2;
-        int unitTransferPrice;
+        VelDiscountModel discountModel; ///< of the position that the piece belongs to
+        int discountLevel;              ///< of that position
+        bool isPackage;                 ///< whether that position is a package
+        int unitPrice;         ///< cents for this piece; the first of a package carries all of its price, the others 0
+        bool isTransferModel2; ///< whether shipping is charged by piece
+        int unitTransferPrice; ///< cents of shipping for this piece under that model
         int baseTransferPrice; ///< on the one piece that carries it, else NO_BASE_TRANSFER_PRICE
     };
+    /// In place of a base charge: the piece carries none.
     static const int NO_BASE_TRANSFER_PRICE = -1000000;
 
     /// Copies its arguments and prices every product of the statistic, in the statistic's order, under the status.
@@ -58,8 +60,10 @@ public:
     /// The copy has positions of its own; it shares the lists of discount information.
     VelTarmBill(const VelTarmBill& theOther);
     VelTarmBill& operator=(const VelTarmBill&) = delete;
+
     ~VelTarmBill();
 
+    /// The id that the constructor was given.
     int shippingGroup() const { return myShippingGroup; }
 
     /// The shipping of the group, null when it has none. The ids are -1 and 0 for none.
@@ -78,7 +82,7 @@ public:
     void addOrderPositions(const VelTarmBillPositionList& thePositions);
 
     /// Appends a line, of which a position is made when one is asked for.
-    void addLine(const VelTarmBillLine& theLine) { myEntries.emplace_back(theLine); }
+    void addLine(const VelTarmBillLine& theLine);
 
     /// The highest discount level of these articles, each by its first position; 0 for none, and at least 0.
     int highestDiscountLevelOf(const QList<int>& theArticleIDs) const;
@@ -127,8 +131,10 @@ public:
 
     /// Narrows the bill to the articles of the list; an empty list changes nothing at all. Transfer and payment are
     /// charged only if the list holds their articles, the transfer as reckoned for the whole bill. For copies: a
-    /// position that is taken out of the list stays alive, owned by nobody.
+    /// position that was asked for and is taken out of the list stays alive, owned by nobody.
     void filterArticles(const QList<int>& theArticleIDs);
+
+    /// Takes the packages out of the list, in the same way.
     void filterOutPackages();
 
     /// Writes every position to the log.

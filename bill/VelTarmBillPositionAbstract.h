@@ -15,6 +15,7 @@ class VELTARM_EXPORT VelTarmBillPositionAbstract : public QObject
     Q_OBJECT
 
 public:
+    /// Of a product that may be null.
     explicit VelTarmBillPositionAbstract(VelProductAbstract* theProduct) : myProduct(theProduct) {}
 
     /// The copy has no parent.
@@ -35,12 +36,18 @@ public:
 
     /// How many sold pieces the position stands for.
     virtual int countItems() const = 0;
+
+    /// Whether a unit is a package of several pieces.
     virtual bool isPackage() const = 0;
+
+    /// The model and the level behind the price.
     virtual VelDiscountModel discountModel() const = 0;
     virtual int discountLevel() const = 0;
 
     /// Unit price times unit count.
     virtual int positionPrice() const;
+
+    /// What the line is for.
     virtual VelProductAbstract* product() const { return myProduct; }
 
     /// The unit price without a running offer, -1 when none is running.
@@ -48,6 +55,8 @@ public:
 
     /// The product's editor name.
     QString productName() const;
+
+    /// Another product for the same line; the amounts stay.
     void setProduct(VelProductAbstract* theProduct) { myProduct = theProduct; }
 
     /// By product name, numbers in it by value.

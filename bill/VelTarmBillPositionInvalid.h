@@ -9,6 +9,7 @@ class VELTARM_EXPORT VelTarmBillPositionInvalid : public VelTarmBillPositionAbst
     Q_OBJECT
 
 public:
+    /// Of the product that has no price.
     explicit VelTarmBillPositionInvalid(VelProductAbstract* theProduct) : VelTarmBillPositionAbstract(theProduct) {}
     VelTarmBillPositionInvalid(const VelTarmBillPositionInvalid&) = default;
 

@@ -18,3 +18,8 @@ if(VELTARM_SANITIZERS)
                                                            -fno-omit-frame-pointer)
   target_link_options(VelTarmCompilerSettings INTERFACE -fsanitize=${VELTARM_SANITIZERS})
 endif()
+
+set_property(TARGET VelTarmCompilerSettings PROPERTY INTERFACE_LINK_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/VelTarmExports.map)
+target_link_options(
+  VelTarmCompilerSettings INTERFACE
+  $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,SHARED_LIBRARY>:-Wl,--version-script=${CMAKE_CURRENT_LIST_DIR}/VelTarmExports.map>)

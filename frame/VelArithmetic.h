@@ -11,16 +11,19 @@
  */
 namespace VelArithmetic {
 
+/// Left and right added, wrapping.
 inline int sum(int theLeft, int theRight)
 {
     return static_cast<int>(static_cast<quint32>(theLeft) + static_cast<quint32>(theRight));
 }
 
+/// Right taken from left, wrapping.
 inline int difference(int theLeft, int theRight)
 {
     return static_cast<int>(static_cast<quint32>(theLeft) - static_cast<quint32>(theRight));
 }
 
+/// Left times right, wrapping.
 inline int product(int theLeft, int theRight)
 {
     return static_cast<int>(static_cast<quint32>(theLeft) * static_cast<quint32>(theRight));

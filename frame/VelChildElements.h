@@ -11,16 +11,21 @@
 class VelChildElements
 {
 public:
+    /// What a range-based for needs, and no more.
     class Iterator
     {
     public:
+        /// Stands at the element, null for the end.
         Iterator(const QDomElement& theElement, const QString& theTag) : myElement(theElement), myTag(theTag) {}
+        /// The element it stands at.
         const QDomElement& operator*() const { return myElement; }
+        /// On to the next sibling element of the tag.
         Iterator& operator++()
         {
             myElement = myElement.nextSiblingElement(myTag);
             return *this;
         }
+        /// Whether the two stand at different elements.
         bool operator!=(const Iterator& theOther) const { return myElement != theOther.myElement; }
 
     private:
@@ -34,6 +39,7 @@ public:
     {
     }
 
+    /// The first child element, and the end behind the last one.
     Iterator begin() const { return Iterator(myParent.firstChildElement(myTag), myTag); }
     Iterator end() const { return Iterator(QDomElement(), myTag); }
 

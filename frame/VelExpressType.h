@@ -15,6 +15,8 @@ class VELTARM_EXPORT VelExpressType
 public:
     /// ExpressableType_UNKNOWN.
     VelExpressType() = default;
+
+    /// Of a value, and so converts from it.
     VelExpressType(VelExpressTypeEnum theValue) : myValue(theValue) {}
 
     /// Decodes a document's key: "0" standard, "1" and "2" the express classes, empty is unknown.
@@ -24,11 +26,13 @@ public:
     VelExpressType& operator=(const VelExpressType&) = default;
     virtual ~VelExpressType() = default;
 
+    /// The value, standard and express classes in ascending order.
     VelExpressTypeEnum value() const { return myValue; }
 
     /// Whether the value is not ExpressableType_UNKNOWN.
     bool isValid() const { return myValue != ExpressableType_UNKNOWN; }
 
+    /// By value.
     bool operator<(const VelExpressType& theOther) const { return myValue < theOther.myValue; }
     bool operator==(const VelExpressType& theOther) const { return myValue == theOther.myValue; }
     bool operator!=(const VelExpressType& theOther) const { return myValue != theOther.myValue; }

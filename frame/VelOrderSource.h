@@ -24,15 +24,18 @@ public:
     /// Reads the attributes `input_source` and `delivery_type`; a missing one is the wild value -1.
     explicit VelOrderSource(const QDomElement& theElement);
 
+    /// The order ways of a shop.
     static VelOrderSource onlineMailOrder() { return {INPUT_SOURCE_NET, DELIVERY_TYPE_MAILORDER}; }
     static VelOrderSource onlinePointOfSale() { return {INPUT_SOURCE_NET, DELIVERY_TYPE_POS}; }
     static VelOrderSource kioskOnSite() { return {INPUT_SOURCE_KIOSK, DELIVERY_TYPE_ON_SITE}; }
     static VelOrderSource cdMailOrder() { return {INPUT_SOURCE_CD, DELIVERY_TYPE_MAILORDER}; }
     static VelOrderSource cdPointOfSale() { return {INPUT_SOURCE_CD, DELIVERY_TYPE_POS}; }
 
+    /// The two halves.
     VelInputSource inputSource() const { return myInputSource; }
     VelDeliveryType deliveryType() const { return myDeliveryType; }
 
+    /// Whether this is exactly that order way; a wild half is none of them.
     bool isOnlineMailOrder() const { return *this == onlineMailOrder(); }
     bool isOnlinePointOfSale() const { return *this == onlinePointOfSale(); }
     bool isKioskOnSite() const { return *this == kioskOnSite(); }
@@ -46,6 +49,7 @@ public:
     /// The two document keys joined by an underscore, as "0_1"; "_" for the wild pair.
     QString toSquishString() const;
 
+    /// By both halves; the wild value equals itself alone.
     bool operator==(const VelOrderSource& theOther) const
     {
         return myInputSource == theOther.myInputSource && myDeliveryType == theOther.myDeliveryType;

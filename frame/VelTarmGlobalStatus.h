@@ -17,6 +17,7 @@ public:
 
     ~VelTarmGlobalStatus() override;
 
+    /// A copy of the status, and its parts as VelTarmStatus states them.
     VelTarmStatus status() const { return myStatus; }
     VelOrderSource orderSource() const { return myStatus.orderSource(); }
     VelInputSource inputSource() const { return myStatus.inputSource(); }
@@ -37,6 +38,7 @@ public slots:
     void setOrderSource(const VelOrderSource& theNewOrderSource);
 
 signals:
+    /// The order source is another one now; the payment may have changed with it.
     void orderSourceChanged();
 
 private:

@@ -12,11 +12,13 @@ public:
     /// Net, mail order, PAYMENT_TYPE_3.
     VelTarmStatus() = default;
 
+    /// The state: the order source with its halves, and the payment.
     VelOrderSource orderSource() const { return myOrderSource; }
     VelInputSource inputSource() const { return myOrderSource.inputSource(); }
     VelDeliveryType deliveryType() const { return myOrderSource.deliveryType(); }
     VelPaymentType payment() const { return myPayment; }
 
+    /// Nothing is tested: the order source need not permit the payment.
     void setPayment(VelPaymentType thePayment) { myPayment = thePayment; }
 
     /// A change of the delivery type chooses a reasonable payment; a change of the input source alone keeps it, since
@@ -33,6 +35,7 @@ public:
     /// Takes the key's order source; its level and model are ignored.
     void setPriceKey(const VelTarmPriceKey& theKey) { setOrderSource(theKey.orderSource()); }
 
+    /// Whether the order source is exactly that one.
     bool hasOrderSource(const VelOrderSource& theOrderSource) const { return myOrderSource == theOrderSource; }
     bool isOnlinePointOfSale() const { return myOrderSource.isOnlinePointOfSale(); }
     bool isOnlineMailOrder() const { return myOrderSource.isOnlineMailOrder(); }
@@ -40,10 +43,11 @@ public:
     bool isKioskOnSite() const { return myOrderSource.isKioskOnSite(); }
     bool isCdMailOrder() const { return myOrderSource.isCDMailOrder(); }
 
-    /// By the input source, whatever the delivery type; and the reverse.
+    /// By the input source, whatever the delivery type; by the delivery type, whatever the input source.
     bool isNetOrder() const { return inputSource() == INPUT_SOURCE_NET; }
     bool isMailOrder() const { return deliveryType() == DELIVERY_TYPE_MAILORDER; }
 
+    /// A closed list of payments.
     static bool paymentTypePermitsDifferentShippingAddress(VelPaymentType thePayment);
 
     /// For mail order with a payment that permits it.

@@ -3,6 +3,8 @@
 #include "host/VelshopWords.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
 #include <QRegularExpression>
 #include <QVector>
 
@@ -45,6 +47,13 @@ const QString STR_DESCRIPTION = QStringLiteral(
     "      product types with their products, scales and page ranges\n\n"
     "Exit codes: 0 done, 1 there is no price, 2 a wrong argument or an unreadable document.");
 
+/// The sample shop of the installation that the program runs from, otherwise that of the source folder.
+QString sampleAccount()
+{
+    const QDir installed(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/veltarm/shop"));
+    return installed.exists() ? QDir::cleanPath(installed.path()) : QStringLiteral(VELSHOP_SAMPLE_ACCOUNT);
+}
+
 void declareOptions(QCommandLineParser& theParser)
 {
     theParser.setApplicationDescription(STR_DESCRIPTION);
@@ -56,7 +65,7 @@ void declareOptions(QCommandLineParser& theParser)
         {STR_ACCOUNT,
          QStringLiteral("Folder of the key account: pricelist.xml, orderingdetails.xml, currencies.xml, and where it "
                         "has them appearance.xml and icons/payment/filenames.xml."),
-         QStringLiteral("DIR"), QStringLiteral(VELSHOP_SAMPLE_ACCOUNT)},
+         QStringLiteral("DIR"), sampleAccount()},
         {STR_JSON, QStringLiteral("Print JSON.")},
         {STR_LANGUAGE, QStringLiteral("Language of the customer texts: de (default) or en."), QStringLiteral("CODE"),
          QStringLiteral("de")},

@@ -15,12 +15,13 @@ public:
     /// As after reset().
     VelClientStrategyException();
 
+    /// The eight values as they are given.
     VelClientStrategyException(VelForgottenPasswordStrategy theUserInsertStrategy, const QString& theUserInsertTarget,
                                VelForgottenPasswordStrategy thePasswordStrategy, const QString& thePasswordTarget,
                                VelConnectStrategy theConnectStrategy, bool theLoginDataEditingEnabled,
                                const QString& theDnsMailSuffix, bool theShowAGBCheckbox);
 
-    /// All eight values are equal; a null and an empty text are. Meant so: not const.
+    /// By all eight values; a null and an empty text are equal. Meant so: not const.
     bool operator==(const VelClientStrategyException& theOther);
     bool operator!=(const VelClientStrategyException& theOther);
 

@@ -37,6 +37,8 @@ public:
 
     /// `symbolHTML`, default "&euro;". The plain symbol in place of a null text, but not of an empty one.
     QString symbolHTML() const;
+
+    /// symbolHTML() or symbol().
     QString symbol(bool theHtml) const;
 
     /// The whole units, behind a minus sign when the amount is negative (-50 gives "-0"). Nothing groups the digits.

@@ -20,6 +20,7 @@ public:
     /// All amounts -1, no dates.
     void clear();
 
+    /// The amounts as they were read or set, valid or not.
     int salesTaxValue() const { return mySalesTax; }
     int billSumValue() const { return myBillSum; }
     int provincialSalesTax() const { return myProvincialSalesTax; }
@@ -33,7 +34,11 @@ public:
 
     /// An invalid date for an express type that has none.
     VelTarmShippingDate shippingDate(const VelExpressType& theType) const { return myShippingDates.value(theType); }
+
+    /// Whether both days are known.
     bool shippingDateIsValid(const VelExpressType& theType) const { return shippingDate(theType).isValid(); }
+
+    /// Replaces the date of that express type.
     void setShippingDate(const VelExpressType& theType, const VelTarmShippingDate& theDate);
 
     /// Adds the dates of `shipping_times`, the later of two for one express type; what has been read before stays. A
@@ -44,6 +49,7 @@ public:
     /// attribute `price`.
     void buildOrderDeclarationSalesTaxElement(QDomElement& theParent) const;
 
+    /// By the three amounts and all dates.
     bool operator==(const VelOrderCalculationResult& theOther) const;
     bool operator!=(const VelOrderCalculationResult& theOther) const { return !(*this == theOther); }
 

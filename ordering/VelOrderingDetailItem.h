@@ -17,6 +17,8 @@ public:
 
     /// `id`, default 0. In the class PAYMENT_CLASS_PAY_METHODS it is the payment type, in the others a free number.
     int id() const { return myId; }
+
+    /// The list in which it stands.
     VelPaymentClass payClass() const { return myPayClass; }
 
     /// `name`, null when missing: shown to the customer, and the key of the icon.
@@ -25,7 +27,7 @@ public:
     /// `brand`, null when missing: a second identification beside the name.
     QString brand() const { return myBrand; }
 
-    /// The file name of the icon; empty when the name has none.
+    /// The file name of the icon; empty when the name has none. Set by VelOrderingDetails.
     QString iconFilename() const { return myIconFilename; }
     void setIconFilename(const QString& theIconFilename) { myIconFilename = theIconFilename; }
 

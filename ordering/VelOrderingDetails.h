@@ -55,7 +55,8 @@ public:
     /// A copy of the record.
     VelClientStrategyException clientStrategyException() const { return myClientStrategyException; }
 
-    /// Order ways of the document, those without a payment too, and ordered by VelOrderSource::operator<.
+    /// Order ways of the document, their number and all of them, those without a payment too, and ordered by
+    /// VelOrderSource::operator<.
     int numberOfOrderWays() const { return myOrderSources.size(); }
     QList<VelOrderSource> availableOrderSources() const { return myOrderSources.keys(); }
 
@@ -79,6 +80,8 @@ public:
     /// The order way has a payment. Without a delivery type mail order or point of sale must have one; on site is
     /// enabled by products of shipping group 23, whatever the document lists.
     bool orderSourceEnabled(const VelOrderSource& theSource) const;
+
+    /// orderSourceEnabled() for one order way, and for several of them.
     bool canOnlinePointOfSale() const { return orderSourceEnabled(VelOrderSource::onlinePointOfSale()); }
     bool canOnlineMailOrder() const { return orderSourceEnabled(VelOrderSource::onlineMailOrder()); }
     bool canCdPointOfSale() const { return orderSourceEnabled(VelOrderSource::cdPointOfSale()); }
@@ -105,8 +108,8 @@ public:
     /// The payments of an order way in document order; empty for an unknown one.
     QList<VelPaymentType> availablePayments(const VelOrderSource& theSource) const;
 
-    /// The payment that a new order starts with: the preferred one when the order way has it, otherwise the order way's
-    /// first; PAYMENT_TYPE_UNKNOWN when it has none.
+    /// The payment that a new order starts with: the preferred one, if it is given and the order way has it, otherwise
+    /// the order way's first; PAYMENT_TYPE_UNKNOWN when it has none.
     VelPaymentType reasonableStartingPayment(const VelOrderSource& theSource) const;
     VelPaymentType reasonableStartingPayment(const VelOrderSource& theSource, VelPaymentType thePreferred) const;
 

@@ -17,10 +17,17 @@ public:
     /// valid, and for an element of another tag.
     explicit VelTarmShippingDate(const QDomElement& theElement);
 
+    /// The two days; null unless both are known.
     QDate minDate() const { return myMinDate; }
     QDate maxDate() const { return myMaxDate; }
+
+    /// Whether both days are valid.
     bool isValid() const { return myMinDate.isValid() && myMaxDate.isValid(); }
+
+    /// Whether the two differ.
     bool varies() const { return myMinDate != myMaxDate; }
+
+    /// By both days.
     bool operator==(const VelTarmShippingDate& theOther) const
     {
         return myMinDate == theOther.myMinDate && myMaxDate == theOther.myMaxDate;

@@ -33,6 +33,8 @@ public:
 
     /// `transfer_model`, TRANSFER_MODEL_UNDEFINED when missing or unknown.
     VelTransferModel transferModel() const { return myTransferModel; }
+
+    /// The element's index among its siblings.
     int priceListTabPosition() const { return myPriceListTabPosition; }
 
 private:

@@ -19,12 +19,18 @@ public:
     /// -1 when the document says no number. The document may give the higher number first.
     int minDays() const { return myMinDays; }
     int maxDays() const { return myMaxDays; }
+
+    /// What the days hold for; the unknown value without one.
     VelDeliveryType deliveryType() const { return myDeliveryType; }
     VelExpressType expressType() const { return myExpressType; }
 
     /// Whether both types are known; the days play no part.
     bool isValid() const { return myDeliveryType != DELIVERY_TYPE_UNKNOWN && myExpressType.isValid(); }
+
+    /// Whether the two numbers of days differ.
     bool varies() const { return myMinDays != myMaxDays; }
+
+    /// By the days and both types.
     bool operator==(const VelTarmShippingTime& theOther) const;
 
 private:

@@ -14,16 +14,21 @@ public:
     static const QString STR_SHIPPING_TIMES; ///< the element's tag
 
     VelTarmShippingTimeList() = default;
+
+    /// As after update().
     explicit VelTarmShippingTimeList(const QDomElement& theElement) { update(theElement); }
 
     /// Replaces the list by the children `shipping_time` of an element `shipping_times`; any other element, a null one
     /// too, leaves an empty list. An invalid entry is dropped with a warning.
     void update(const QDomElement& theElement);
 
+    /// Whether the document says nothing valid.
     bool isEmpty() const { return myShippingTimes.isEmpty(); }
 
     /// The first entry of both types, an invalid one when there is none.
     VelTarmShippingTime shippingTime(VelDeliveryType theDeliveryType, const VelExpressType& theExpressType) const;
+
+    /// Whether there is such an entry.
     bool isExpressable(VelDeliveryType theDeliveryType, const VelExpressType& theExpressType) const;
 
 private:

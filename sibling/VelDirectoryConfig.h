@@ -9,6 +9,7 @@
 class VELSIBLING_EXPORT VelDirectoryConfig
 {
 public:
+    /// Built on first use, lives to the end of the process.
     static VelDirectoryConfig* instance();
 
     /// The path of a resource of the application, which need not exist. The flag is not looked at.

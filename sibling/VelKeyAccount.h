@@ -34,6 +34,7 @@ public:
     void activate(const QDir& theKeyAccount);
 
 signals:
+    /// Another key account, or other documents of the same one: whatever was read from them is to be read again.
     void applicationKeyAccountChanged();
 
 private:

@@ -9,6 +9,7 @@
 class VELSIBLING_EXPORT VelKeyAccountFileTimeStampManager
 {
 public:
+    /// Built on first use, lives to the end of the process.
     static VelKeyAccountFileTimeStampManager* instance();
 
     /// Of the price-list file at hand; not valid when none is known.

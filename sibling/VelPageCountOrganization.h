@@ -9,8 +9,11 @@ class VELSIBLING_EXPORT VelPageCountOrganization
 public:
     /// No page organisation: all three are 0.
     VelPageCountOrganization();
+
+    /// The parts as they are given.
     VelPageCountOrganization(unsigned int theLowest, unsigned int theHighest, unsigned int theStep);
 
+    /// From the lowest to the highest count by steps.
     unsigned int lowest() const { return myLowest; }
     unsigned int highest() const { return myHighest; }
     unsigned int step() const { return myStep; }

@@ -11,6 +11,7 @@ class VELSIBLING_EXPORT VelPageOrganizationCalculator
 public:
     virtual ~VelPageOrganizationCalculator();
 
+    /// The page counts of the type's product; all 0 for a type that it knows nothing of.
     virtual VelPageCountOrganization createPageOrganization(const VelProductType& theType) const = 0;
 };
 

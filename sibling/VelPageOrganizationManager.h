@@ -10,6 +10,7 @@
 class VELSIBLING_EXPORT VelPageOrganizationManager
 {
 public:
+    /// Built on first use, lives to the end of the process.
     static VelPageOrganizationManager* instance();
 
     /// Takes the calculator and keeps it for the life of the process.

@@ -16,7 +16,10 @@ public:
 
     virtual ~VelProductChecker();
 
+    /// Whether the checker accepts the product type.
     virtual bool isValid(const VelProductType& theType) const = 0;
+
+    /// What it judges by.
     virtual Type type() const = 0;
 };
 

@@ -10,6 +10,7 @@
 class VELSIBLING_EXPORT VelProductCheckerRegistry
 {
 public:
+    /// Built on first use, lives to the end of the process.
     static VelProductCheckerRegistry* instance();
 
     /// Takes the checker and keeps it for the life of the process.

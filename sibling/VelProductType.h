@@ -16,6 +16,7 @@ public:
     /// A text that is no key of a product type gives an unknown type, which keeps the text.
     VelProductType(const QString& theText);
 
+    /// The value; PRODUCT_TYPE_UNKNOWN for a text that is no key.
     VelProductTypeEnum type() const { return myType; }
 
     /// Albums are photo books; an unknown type has PRODUCT_CLASS_NONE.
@@ -24,6 +25,7 @@ public:
     /// The text by which products carry this type as their order-text type.
     QString productName() const { return myText; }
 
+    /// Whether the value is PRODUCT_TYPE_UNKNOWN, whatever the text.
     bool isUnknown() const { return myType == PRODUCT_TYPE_UNKNOWN; }
 
     /// By value, whatever the texts.

@@ -16,6 +16,7 @@ public:
     /// Reads the file, `appearance.xml` for instance. A missing or broken one leaves a null document element.
     explicit VelXMLConfig(const QString& theFileName);
 
+    /// The root of the file, as last read.
     QDomElement documentElement() const;
 
     /// The attribute of the first child of the document element that has the tag theNode; the default when node or

@@ -15,6 +15,7 @@
 class VELSIBLING_EXPORT VelXMLParser
 {
 public:
+    /// The text as it stands.
     static QString attribute(const QDomElement& theElement, const QString& theName, const QString& theDefault);
 
     /// Decimal, blanks around it allowed. What is no number or does not fit into an int gives the default.

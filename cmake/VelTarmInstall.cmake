@@ -1,0 +1,50 @@
+# What `cmake --install` puts where, in four components: runtime, development, tools, documentation.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+include(cmake/VelTarmHeaders.cmake)
+
+set(VELTARM_INSTALL_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR}/veltarm)
+set(VELTARM_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/VelTarm)
+set(VELTARM_INSTALL_SHOPDIR ${CMAKE_INSTALL_DATADIR}/veltarm)
+set(VELTARM_INSTALL_DOCDIR ${CMAKE_INSTALL_DATADIR}/doc/veltarm)
+
+# Other sibling libraries come with a package of their own, which a user of ours has to find first.
+set(VELTARM_INSTALL_TARGETS VelTarm VelTarmStatic)
+if(VELTARM_SIBLING_TARGET STREQUAL VelTarmSibling)
+  list(APPEND VELTARM_INSTALL_TARGETS VelTarmSibling)
+endif()
+
+# An installation works wherever it is moved to: each library and program looks for the libraries beside itself.
+set_target_properties(VelTarm VelTarmSibling PROPERTIES INSTALL_RPATH "$ORIGIN")
+set_target_properties(VelTarmStatic PROPERTIES EXPORT_NAME Static)
+set_target_properties(VelTarmSibling PROPERTIES EXPORT_NAME Sibling)
+
+install(TARGETS ${VELTARM_INSTALL_TARGETS} EXPORT VelTarmTargets
+        LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
+        ARCHIVE COMPONENT development
+        INCLUDES DESTINATION ${VELTARM_INSTALL_INCLUDEDIR})
+
+veltarm_public_headers(VELTARM_PUBLIC_HEADERS)
+foreach(header IN LISTS VELTARM_PUBLIC_HEADERS)
+  if(NOT header MATCHES "^sibling/" OR VELTARM_SIBLING_TARGET STREQUAL VelTarmSibling)
+    cmake_path(GET header PARENT_PATH folder)
+    install(FILES ${header} DESTINATION ${VELTARM_INSTALL_INCLUDEDIR}/${folder} COMPONENT development)
+  endif()
+endforeach()
+
+configure_package_config_file(cmake/VelTarmConfig.cmake.in ${PROJECT_BINARY_DIR}/VelTarmConfig.cmake
+                              INSTALL_DESTINATION ${VELTARM_INSTALL_CMAKEDIR})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/VelTarmConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/VelTarmConfig.cmake ${PROJECT_BINARY_DIR}/VelTarmConfigVersion.cmake
+        DESTINATION ${VELTARM_INSTALL_CMAKEDIR} COMPONENT development)
+install(EXPORT VelTarmTargets NAMESPACE VelTarm:: DESTINATION ${VELTARM_INSTALL_CMAKEDIR} COMPONENT development)
+
+if(VELTARM_BUILD_HOST)
+  file(RELATIVE_PATH libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+  set_target_properties(velshop PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
+  install(TARGETS velshop COMPONENT tools)
+  install(DIRECTORY shop shop-small DESTINATION ${VELTARM_INSTALL_SHOPDIR} COMPONENT tools)
+endif()
+
+install(FILES README.md CHANGELOG.md DESTINATION ${VELTARM_INSTALL_DOCDIR} COMPONENT documentation)
+install(DIRECTORY docs DESTINATION ${VELTARM_INSTALL_DOCDIR} COMPONENT documentation)
