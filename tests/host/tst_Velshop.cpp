@@ -1,4 +1,5 @@
 #include "support/VelTestAccount.h"
+#include "support/VelTestVelshop.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -6,26 +7,9 @@
 
 namespace {
 
-struct Answer
-{
-    int exitCode;
-    QString output;
-    QString errors;
-};
-
-Answer velshop(const QStringList& theArguments)
-{
-    QProcess process;
-    process.start(QStringLiteral(VELSHOP_PROGRAM), theArguments);
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
-        return {-1, QString(), QStringLiteral("velshop did not end by itself")};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
-
 QJsonDocument json(const QString& theArguments)
 {
-    return QJsonDocument::fromJson(velshop((theArguments + " --json").split(' ')).output.toUtf8());
+    return QJsonDocument::fromJson(velshop((theArguments + " --json").split(' ')).output);
 }
 
 } // namespace
@@ -59,11 +43,11 @@ private slots:
     void answers()
     {
         const QString arguments = cell("arguments").replace("SMALL", VELTARM_SOURCE_DIR "/shop-small");
-        const Answer answer = velshop(arguments.split(' '));
-        QCOMPARE(answer.errors, QString());
+        const VelshopAnswer answer = velshop(arguments.split(' '));
+        QCOMPARE(answer.errors, QByteArray());
         QCOMPARE(answer.exitCode, 0);
         for (const QString& text : cell("expected").split("; "))
-            QVERIFY2(answer.output.contains(text), qPrintable(answer.output));
+            QVERIFY2(answer.output.contains(text.toUtf8()), answer.output);
     }
 
     void refusals_data()
@@ -100,11 +84,11 @@ private slots:
 
     void refusals()
     {
-        const Answer answer = velshop(cell("arguments").split(' ', Qt::SkipEmptyParts));
+        const VelshopAnswer answer = velshop(cell("arguments").split(' ', Qt::SkipEmptyParts));
         QCOMPARE(answer.exitCode, number("exitCode"));
-        QCOMPARE(answer.output, QString());
-        QVERIFY2(answer.errors.startsWith("velshop: ") && answer.errors.contains(cell("reason")),
-                 qPrintable(answer.errors));
+        QCOMPARE(answer.output, QByteArray());
+        QVERIFY2(answer.errors.startsWith("velshop: ") && answer.errors.contains(cell("reason").toUtf8()),
+                 answer.errors);
         QCOMPARE(answer.errors.count('\n'), 1);
     }
 
@@ -127,9 +111,9 @@ private slots:
         account.write("pricelist.xml", cell("priceList").toUtf8());
         account.write("orderingdetails.xml", cell("details").toUtf8());
         account.write("currencies.xml", cell("currencies").toUtf8());
-        const Answer answer = velshop({"list", "--account", account.path()});
+        const VelshopAnswer answer = velshop({"list", "--account", account.path()});
         QCOMPARE(answer.exitCode, 2);
-        QVERIFY2(answer.errors.contains(cell("place")), qPrintable(answer.errors));
+        QVERIFY2(answer.errors.contains(cell("place").toUtf8()), answer.errors);
         QCOMPARE(answer.errors.count('\n'), 1);
     }
 
