@@ -17,11 +17,12 @@
 
 namespace {
 
-/// Either the whole file is there or the former one stays.
+/// Either the whole file is there or the former one stays. Flushed by hand: a disk that turns out to be full when
+/// commit() flushes would not keep it from replacing the former file.
 bool save(const QString& theFile, const QByteArray& theContent, QString& theError)
 {
     QSaveFile file(theFile);
-    if (file.open(QIODevice::WriteOnly) && file.write(theContent) == theContent.size() && file.commit())
+    if (file.open(QIODevice::WriteOnly) && file.write(theContent) == theContent.size() && file.flush() && file.commit())
         return true;
     theError = QStringLiteral("%1: %2").arg(theFile, file.errorString());
     return false;

@@ -106,6 +106,8 @@ private:
         const QString file = myReader.text(theCart.value(STR_COUPON), STR_COUPON);
         myCart.myCouponFile = QFileInfo(myCart.myFile).dir().filePath(file);
         myCart.myCouponId = myReader.text(theCart.value(STR_COUPON_ID), STR_COUPON_ID);
+        if (!QFileInfo(myCart.myCouponFile).isFile()) // a device or a pipe might never end
+            myReader.refuse(STR_COUPON, myCart.myCouponFile + QStringLiteral(": there is no such file"));
     }
 
     void readItem(const QJsonValue& theValue, const QString& thePlace)

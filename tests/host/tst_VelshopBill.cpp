@@ -1,4 +1,5 @@
 #include "support/VelTestAccount.h"
+#include "support/VelTestVelshop.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -7,26 +8,11 @@
 
 namespace {
 
-struct Answer
-{
-    int exitCode;
-    QByteArray output;
-    QByteArray errors;
-};
-
 using Environment = QMap<QString, QString>;
 
-Answer bill(const QString& theCart, const QStringList& theOptions = {}, const Environment& theEnvironment = {})
+VelshopAnswer bill(const QString& theCart, const QStringList& theOptions = {}, const Environment& theEnvironment = {})
 {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (auto variable = theEnvironment.cbegin(); variable != theEnvironment.cend(); ++variable)
-        environment.insert(variable.key(), variable.value());
-    process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(VELSHOP_PROGRAM), QStringList{"bill", theCart} + theOptions);
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
-        return {-1, QByteArray(), "velshop did not end by itself"};
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    return velshop(QStringList{"bill", theCart} + theOptions, theEnvironment);
 }
 
 QString source(const QString& theFile)
@@ -62,7 +48,7 @@ private slots:
 
     void fixtures()
     {
-        const Answer answer = bill(source(cell("cart")), {"--order-text"});
+        const VelshopAnswer answer = bill(source(cell("cart")), {"--order-text"});
         QCOMPARE(answer.exitCode, number("exitCode"));
         const QList<QByteArray> expected = content(source("tests/host/bills/" + cell("row") + ".txt")).split('\n');
         const QList<QByteArray> lines = answer.output.split('\n');
@@ -102,6 +88,7 @@ private slots:
             payment of others    | 2 | payment: 15                      | {"payment":15,"items":[{"article":103,"count":1}]}
             unknown express      | 2 | express                          | {"express":"3","items":[{"article":103,"count":1}]}
             no coupon file       | 2 | coupon: FOLDER/none.xml          | {"coupon":"none.xml","couponId":"A","items":[{"article":103,"count":1}]}
+            coupon is a device   | 2 | coupon: /dev/zero: there is no   | {"coupon":"/dev/zero","couponId":"A","items":[{"article":103,"count":1}]}
             no coupon code       | 2 | couponId                         | {"coupon":"none.xml","items":[{"article":103,"count":1}]}
             coupon beyond an int | 2 | amount of shipping group 1       | {"coupon":"dear.xml","couponId":"A","items":[{"article":103,"count":1}]}
             coupon not XML       | 2 | coupon: FOLDER/cart.json, line 1, column | {"coupon":"cart.json","couponId":"A","items":[{"article":103,"count":1}]}
@@ -116,7 +103,7 @@ private slots:
         const TestAccount folder;
         folder.write("cart.json", cell("cart").replace("\\n", "\n").toUtf8());
         folder.write("dear.xml", "<a><coupons><coupon type='value' price='2147483647' campaign_no=''/></coupons></a>");
-        const Answer answer = bill(folder.path("cart.json"));
+        const VelshopAnswer answer = bill(folder.path("cart.json"));
         const QString errors = QString::fromUtf8(answer.errors);
         QVERIFY2(errors.contains(cell("place").replace("FOLDER", folder.path())), qPrintable(errors));
         QVERIFY2(errors.startsWith("velshop: " + folder.path("cart.json")), qPrintable(errors));
@@ -145,8 +132,8 @@ private slots:
             const TestAccount folder;
             const QString page = folder.path("bill.html");
             const QString discounts = folder.path("discounts.xml");
-            const Answer answer = bill(source("shop/carts/showcase.json"),
-                                       {"--html", page, "--discounts", discounts, "--order-text"}, environment);
+            const VelshopAnswer answer = bill(source("shop/carts/showcase.json"),
+                                              {"--html", page, "--discounts", discounts, "--order-text"}, environment);
             QCOMPARE(answer.exitCode, 0);
             const QByteArray all = answer.output + content(page) + content(discounts);
             if (first.isEmpty())
@@ -169,9 +156,31 @@ private slots:
         QVERIFY(elements.contains("table") && !elements.contains("script"));
         for (const char* text : {"16,20 &#8364;", "CHF 20.25", "0,25 &#8364;", "prefers-color-scheme: dark"})
             QVERIFY2(page.contains(text), text);
-        const Answer unwritable = bill(source("shop/carts/small.json"), {"--html", folder.path("none/bill.html")});
+        const VelshopAnswer unwritable =
+            bill(source("shop/carts/small.json"), {"--html", folder.path("none/bill.html")});
         QCOMPARE(unwritable.exitCode, 2);
         QCOMPARE(unwritable.errors.count('\n'), 1);
+    }
+
+    /// On a disk that is full the former file stays, and nothing half-written. A limit on the size of files stands for
+    /// the full disk.
+    void fullDisk()
+    {
+        const TestAccount folder;
+        for (const char* option : {"--html", "--discounts"}) {
+            const QString file = folder.path("out");
+            folder.write("out", "former");
+            QProcess shell;
+            shell.setWorkingDirectory(source(""));
+            shell.start("bash", {"-c", QString("ulimit -f 1; trap '' XFSZ; exec '%1' bill shop/carts/showcase.json %2 "
+                                               "'%3' 2>&1 >/dev/null")
+                                           .arg(VELSHOP_PROGRAM, option, file)});
+            QVERIFY(shell.waitForFinished(60000));
+            QCOMPARE(shell.exitCode(), 2);
+            QVERIFY(shell.readAllStandardOutput().startsWith("velshop: " + file.toUtf8()));
+            QCOMPARE(content(file), QByteArray("former"));
+            QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList("out"));
+        }
     }
 
     void discounts()
