@@ -13,13 +13,19 @@ const QString STR_FEATURE_WHITESPACE =
 const QString STR_DOCTYPE = QStringLiteral("<!DOCTYPE");
 const QString STR_ENTITY = QStringLiteral("<!ENTITY");
 const QString STR_ELEMENT = QStringLiteral("<!ELEMENT");
+const QString STR_NOTATION = QStringLiteral("<!NOTATION");
 
 /// The reader parses elements and QDom destroys them by recursion, so that nesting without limit would overflow the
 /// stack. Documents of this application nest less than ten levels.
 constexpr int MAX_NESTING = 256;
 
-/// Stands between the reader and the builder of the tree, and ends the parsing of a document that nests too deeply.
-class NestingGuard : public QXmlContentHandler
+/// The tree keeps the attributes of an element in a hash. Names can be chosen so that they collide, whatever the hash's
+/// seed, and each further one then takes longer. Elements of this application have less than twenty.
+constexpr int MAX_ATTRIBUTES = 256;
+
+/// Stands between the reader and the builder of the tree, and ends the parsing of a document with an element that would
+/// do harm.
+class ElementGuard : public QXmlContentHandler
 {
 public:
     void setTarget(QXmlContentHandler* theTarget) { myTarget = theTarget; }
@@ -36,7 +42,11 @@ public:
                       const QXmlAttributes& theAttributes) override
     {
         ++myDepth;
-        return !isTooDeep() && myTarget->startElement(theUri, theLocalName, theName, theAttributes);
+        if (myDepth > MAX_NESTING)
+            return refuse(QStringLiteral("elements nest deeper than %1 levels").arg(MAX_NESTING));
+        if (theAttributes.count() > MAX_ATTRIBUTES)
+            return refuse(QStringLiteral("an element has more than %1 attributes").arg(MAX_ATTRIBUTES));
+        return myTarget->startElement(theUri, theLocalName, theName, theAttributes);
     }
     bool endElement(const QString& theUri, const QString& theLocalName, const QString& theName) override
     {
@@ -50,17 +60,18 @@ public:
         return myTarget->processingInstruction(theName, theData);
     }
     bool skippedEntity(const QString& theName) override { return myTarget->skippedEntity(theName); }
-    QString errorString() const override
-    {
-        return isTooDeep() ? QStringLiteral("elements nest deeper than %1 levels").arg(MAX_NESTING)
-                           : myTarget->errorString();
-    }
+    QString errorString() const override { return myReason.isNull() ? myTarget->errorString() : myReason; }
 
 private:
-    bool isTooDeep() const { return myDepth > MAX_NESTING; }
+    bool refuse(const QString& theReason)
+    {
+        myReason = theReason;
+        return false;
+    }
 
     QXmlContentHandler* myTarget = nullptr;
     int myDepth = 0;
+    QString myReason; ///< why an element was refused, null while none was
 };
 
 /// The reader as QDomDocument sets it up for itself, with the guard in front of whatever handler it is given.
@@ -81,23 +92,27 @@ public:
     }
 
 private:
-    NestingGuard myGuard;
+    ElementGuard myGuard;
 };
 
-/// Entities that a document declares itself can blow it up to any size, and content models of many parentheses
-/// overflow the stack. A plain document type declaration does no harm.
+/// Entities that a document declares itself can blow it up to any size, content models of many parentheses overflow the
+/// stack, and notations stand in a hash like attributes. A plain document type declaration does no harm.
 int indexOfHarmfulDeclaration(const QString& theText)
 {
     if (!theText.contains(STR_DOCTYPE))
         return -1;
-    const int entity = theText.indexOf(STR_ENTITY);
-    return entity >= 0 ? entity : theText.indexOf(STR_ELEMENT);
+    for (const QString& declaration : {STR_ENTITY, STR_ELEMENT, STR_NOTATION}) {
+        const int index = theText.indexOf(declaration);
+        if (index >= 0)
+            return index;
+    }
+    return -1;
 }
 
 VelGuardedDocument::Refusal refusalOfDeclaration(const QString& theText, int theIndex)
 {
     const QString before = theText.left(theIndex);
-    return {QStringLiteral("entities and elements must not be declared in the document"),
+    return {QStringLiteral("entities, elements and notations must not be declared in the document"),
             static_cast<int>(before.count(QLatin1Char('\n'))) + 1, theIndex - before.lastIndexOf(QLatin1Char('\n'))};
 }
 

@@ -6,8 +6,9 @@
 #include <QString>
 
 /**
- * Fills a document as QDomDocument itself does, but refuses what would overflow the stack or the memory: elements that
- * nest deeper than 256 levels, and declarations of entities and elements.
+ * Fills a document as QDomDocument itself does, but refuses what would overflow the stack or the memory or take without
+ * end: elements that nest deeper than 256 levels or have more than 256 attributes, and declarations of entities,
+ * elements and notations.
  */
 namespace VelGuardedDocument {
 

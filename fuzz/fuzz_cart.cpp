@@ -1,0 +1,84 @@
+#include "bill/VelTarmBill.h"
+#include "fuzz/FuzzBill.h"
+#include "fuzz/FuzzShop.h"
+#include "host/VelshopArguments.h"
+#include "host/VelshopBill.h"
+#include "host/VelshopCart.h"
+#include "host/VelshopExitCode.h"
+#include "host/VelshopMessages.h"
+
+#include <QFile>
+#include <QTextStream>
+
+namespace {
+
+/// The description of discounts has an entry for each piece.
+const int MOST_PIECES_DESCRIBED = 2000;
+
+/// The coupons lie where those of the sample shop do, seen from the cart.
+void copyCoupons()
+{
+    for (const char* name : {"books10.xml", "shipping.xml"}) {
+        QFile coupon(QStringLiteral(VELTARM_SOURCE_DIR "/shop/coupons/") + QLatin1String(name));
+        FUZZ_REQUIRE(coupon.open(QIODevice::ReadOnly));
+        FuzzShop::write(QStringLiteral("coupons/") + QLatin1String(name), coupon.readAll());
+    }
+}
+
+int askBills(const VelshopCart& theCart)
+{
+    int pieces = 0;
+    for (auto group = theCart.myGroups.cbegin(); group != theCart.myGroups.cend(); ++group) {
+        askBill(VelTarmBill(group.key(), *group, theCart.myExpress, theCart.myStatus));
+        for (const int count : group->items())
+            pieces += count;
+    }
+    return pieces;
+}
+
+int bill(const VelshopArguments& theArguments)
+{
+    VelshopMessages::drop();
+    QString output;
+    QString error;
+    QTextStream stream(&output);
+    const int exitCode = billCart(theArguments, stream, error);
+    FUZZ_REQUIRE(error.isEmpty() == (exitCode == EXIT_DONE));
+    return exitCode;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int*, char***)
+{
+    FuzzShop::open();
+    VelshopMessages::holdBack();
+    copyCoupons();
+    return 0;
+}
+
+/// A cart file through `velshop bill`: as text with all its files, and as data.
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* theData, size_t theSize)
+{
+    static const QString page = FuzzShop::write(QStringLiteral("page.html"), QByteArray());
+    static const QString discounts = FuzzShop::write(QStringLiteral("discounts.xml"), QByteArray());
+    VelshopArguments arguments;
+    arguments.myCart = FuzzShop::write(QStringLiteral("carts/cart.json"),
+                                       QByteArray(reinterpret_cast<const char*>(theData), static_cast<int>(theSize)));
+    arguments.myHasOrderText = true;
+    arguments.myIsJson = true;
+    VelshopCart cart;
+    QString error;
+    if (!readCart(arguments.myCart, cart, error)) {
+        FUZZ_REQUIRE(bill(arguments) == EXIT_BAD_INPUT);
+        return 0;
+    }
+    const int pieces = askBills(cart);
+    const int exitCode = bill(arguments);
+    arguments.myIsJson = false;
+    arguments.myHtmlFile = page;
+    if (pieces <= MOST_PIECES_DESCRIBED)
+        arguments.myDiscountsFile = discounts;
+    FUZZ_REQUIRE(bill(arguments) == exitCode);
+    return 0;
+}
