@@ -443,21 +443,18 @@ VelTarmPriceInfo::Answer VelTarmPriceInfo::package(const VelOrderSource& theSour
     const VelTarmPriceValue* best = reached(levels, theCount, false);
     if (!best) // below the first band there is no price at all in these models
         return answerOf(theModel, -1);
-    const auto items = [&](int theItems) {
-        return Charge{best, theModel, best->discountLevel(), theItems, theItems, 1};
-    };
-    const VelTarmPriceValue* package = reached(levels, theCount, true);
-    if (!package)
-        return answerOf(theModel, VelArithmetic::product(theCount, best->price()), items(theCount));
-
-    const int size = package->upperLimit();
-    Answer answer = answerOf(theModel, package->price(),
-                             {package, theModel, package->discountLevel(), package == best ? theCount : size, 1, size});
-    // A package without a following level has the upper limit -1, and the rest comes to one more than the count.
-    const int rest = package == best ? 0 : VelArithmetic::difference(theCount, size);
+    Answer answer = answerOf(theModel, 0);
+    int rest = theCount;
+    if (const VelTarmPriceValue* package = reached(levels, theCount, true)) {
+        const int size = package->upperLimit();
+        answer = answerOf(theModel, package->price(),
+                          {package, theModel, package->discountLevel(), package == best ? theCount : size, 1, size});
+        // A package without a following level has the upper limit -1, and the rest comes to one more than the count.
+        rest = package == best ? 0 : VelArithmetic::difference(theCount, size);
+    }
     if (rest > 0) {
         answer.myPrice = VelArithmetic::sum(answer.myPrice, VelArithmetic::product(rest, best->price()));
-        answer.myCharges[answer.myChargeCount++] = items(rest);
+        answer.myCharges[answer.myChargeCount++] = {best, theModel, best->discountLevel(), rest, rest, 1};
     }
     return answer;
 }
