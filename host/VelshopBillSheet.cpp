@@ -95,9 +95,9 @@ private:
         text += QStringLiteral("; payment %1 (%2)")
                     .arg(QString::number(payment),
                          VelOrderingDetails::instance()->nameOfOrderingDetail(PAYMENT_CLASS_PAY_METHODS, payment));
-        if (myCart.myExpress != VelExpressType(ExpressableType_STANDARD))
-            text += QStringLiteral("; express %1").arg(myCart.myExpress.value() - ExpressableType_STANDARD);
-        return text;
+        if (myCart.myExpress == VelExpressType(ExpressableType_STANDARD))
+            return text + QStringLiteral("; ") + myCart.myExpress.humanReadableName();
+        return text + QStringLiteral("; express %1").arg(myCart.myExpress.value() - ExpressableType_STANDARD);
     }
 
     bool readCoupon(QString& theError)
