@@ -81,6 +81,12 @@ public:
     int transferPriceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
                          const VelOrderStatistic* theStatistic) const;
     int unitTransferPriceFor(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic) const;
+    /// The entry of the plain price, the invalid one without; never null. Both transfer prices are read from it.
+    const VelTarmPriceValue* basePriceValue(const VelTarmPriceKey& theKey) const
+    {
+        return myPriceInfo.basePriceValue(theKey);
+    }
+    void prefetchPrices(const VelOrderSource& theSource) const { myPriceInfo.prefetch(theSource); }
     int baseTransferPrice(const VelTarmPriceKey& theKey) const;
     int unitTransferPrice(const VelTarmPriceKey& theKey) const;
     VelTransferModel transferModel() const;

@@ -1,11 +1,12 @@
 #include "bill/VelTarmBill.h"
 
+#include "bill/VelTarmArticle.h"
 #include "bill/VelTarmBillEntry.h"
 #include "bill/VelTarmBillPosition.h"
 #include "frame/EnumHelper.h"
 #include "frame/VelArithmetic.h"
 #include "price/VelTarmPriceKey.h"
-#include "product/VelProductAbstract.h"
+#include "product/VelProductAddOn.h"
 #include "product/VelProductRegistry.h"
 
 #include <QtAlgorithms>
@@ -81,6 +82,8 @@ void VelTarmBill::init()
     const VelTarmPriceKey key = myStatus.priceKey();
     const QMap<VelProductAbstract*, int> items = myStatistic.items();
     myEntries.reserve(static_cast<std::size_t>(items.size()));
+    for (auto item = items.cbegin(); item != items.cend(); ++item) // fetched side by side, priced one by one
+        item.key()->tarmArticle()->prefetchPrices(key.orderSource());
     for (auto item = items.cbegin(); item != items.cend(); ++item)
         item.key()->priceFor(key, item.value(), 0, this, &myStatistic);
     const bool isFree = std::any_of(myEntries.cbegin(), myEntries.cend(), [](const VelTarmBillEntry& theEntry) {
@@ -139,18 +142,18 @@ VelTarmBillPosition* VelTarmBill::billPosition(const VelProductAbstract* theProd
 }
 
 /// Goes through the entries, not through the articles: an add-on may fit very many articles.
-int VelTarmBill::highestDiscountLevelOf(const QList<int>& theArticleIDs) const
+int VelTarmBill::highestLevelOfMainProducts(const VelProductAddOn& theAddOn) const
 {
-    const VelProductRegistry* registry = VelProductRegistry::instance();
+    const auto isMainProduct = [&](const VelProductAbstract* theProduct) {
+        const int articleID = theProduct->articleID();
+        return theAddOn.isCompatibleWithArticleId(articleID) &&
+               VelProductRegistry::instance()->productWithArticleID(articleID) == theProduct;
+    };
     int highest = 0;
-    for (const VelTarmBillEntry& entry : myEntries) {
-        const VelProductAbstract* product = entry.product();
-        if (entry.discountLevel() <= highest || !entry.isPriced() || &entry != firstEntryOf(product))
-            continue;
-        const int articleID = product->articleID();
-        if (theArticleIDs.contains(articleID) && registry->productWithArticleID(articleID) == product)
+    for (const VelTarmBillEntry& entry : myEntries)
+        if (entry.discountLevel() > highest && entry.isPriced() && isMainProduct(entry.product()) &&
+            &entry == firstEntryOf(entry.product()))
             highest = entry.discountLevel();
-    }
     return highest;
 }
 

@@ -14,6 +14,7 @@
 #include <vector>
 
 class VelProductAbstract;
+class VelProductAddOn;
 class VelTarmBillEntry;
 class VelTarmBillPosition;
 struct VelTarmBillLine;
@@ -84,8 +85,9 @@ public:
     /// Appends a line, of which a position is made when one is asked for.
     void addLine(const VelTarmBillLine& theLine);
 
-    /// The highest discount level of these articles, each by its first position; 0 for none, and at least 0.
-    int highestDiscountLevelOf(const QList<int>& theArticleIDs) const;
+    /// The highest discount level that a main product of the add-on has, each by its first position; 0 for none, and
+    /// at least 0.
+    int highestLevelOfMainProducts(const VelProductAddOn& theAddOn) const;
 
     /// Whether every product has a price under the bill's status.
     bool isValid() const;

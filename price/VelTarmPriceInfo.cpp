@@ -1,6 +1,7 @@
 #include "price/VelTarmPriceInfo.h"
 
 #include "bill/VelOrderStatistic.h"
+#include "bill/VelTarmArticle.h"
 #include "bill/VelTarmBill.h"
 #include "bill/VelTarmBillPositionList.h"
 #include "frame/EnumHelper.h"
@@ -168,6 +169,17 @@ VelTarmPriceInfo::Bands VelTarmPriceInfo::shelf(const VelOrderSource& theSource)
     return {myPrices.data() + myShelfBegins[number], myPrices.data() + myShelfBegins[number + 1]};
 }
 
+void VelTarmPriceInfo::prefetch(const VelOrderSource& theSource) const
+{
+#if defined(__GNUC__)
+    const Bands prices = shelf(theSource);
+    for (const VelTarmStoredPrice* price = prices.begin(); price < prices.end(); ++price)
+        __builtin_prefetch(price);
+#else
+    Q_UNUSED(theSource)
+#endif
+}
+
 VelTarmPriceInfo::Bands VelTarmPriceInfo::bands(const VelOrderSource& theSource, VelDiscountModel theModel) const
 {
     const Bands prices = shelf(theSource);
@@ -266,8 +278,10 @@ void VelTarmPriceInfo::readEntry(const QDomElement& theEntry)
     myTransferModel = transferModel(theEntry);
     myMaxDiscountLevel = qMax(myMaxDiscountLevel, value.discountLevel());
     const VelOrderSource written(theEntry);
-    for (const VelInputSource inputSource : inputSources(written.inputSource()))
-        for (const VelDeliveryType deliveryType : deliveryTypes(written.deliveryType()))
+    const QList<VelInputSource> inputs = inputSources(written.inputSource());
+    const QList<VelDeliveryType> deliveries = deliveryTypes(written.deliveryType());
+    for (const VelInputSource inputSource : inputs)
+        for (const VelDeliveryType deliveryType : deliveries)
             myPrices.push_back({VelOrderSource(inputSource, deliveryType), value});
 }
 
@@ -322,7 +336,7 @@ int VelTarmPriceInfo::inheritedLevel(const VelTarmBill* theBill) const
     if (!theBill || !myProduct->isProductClass(PRODUCT_CLASS_ADD_ON)) // spares all others the cast
         return 0;
     const auto* addOn = dynamic_cast<const VelProductAddOn*>(myProduct);
-    return addOn ? theBill->highestDiscountLevelOf(addOn->articleIDs()) : 0;
+    return addOn ? theBill->highestLevelOfMainProducts(*addOn) : 0;
 }
 
 int VelTarmPriceInfo::priceInModel(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
@@ -586,9 +600,8 @@ int VelTarmPriceInfo::transferPriceFor(const VelTarmPriceKey& theKey, int theCou
 int VelTarmPriceInfo::priceInTransferModel2(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic,
                                             VelTarmBill* theBill) const
 {
-    const VelTarmPriceKey baseKey(theKey, DISCOUNT_MODEL_BULK);
-    const int total = VelArithmetic::sum(baseTransferPriceInTransferModel2(baseKey, theStatistic),
-                                         unitTransferPriceInTransferModel2(baseKey, theStatistic));
+    const TransferCharges charges = transferCharges(theKey, theStatistic);
+    const int total = VelArithmetic::sum(charges.myBase, charges.myUnits);
     if (theBill)
         theBill->addLine({myProduct, 1, DISCOUNT_MODEL_TRANSFER_2, 0, total, 1, 1, -1, false});
     return total;
@@ -597,36 +610,31 @@ int VelTarmPriceInfo::priceInTransferModel2(const VelTarmPriceKey& theKey, const
 int VelTarmPriceInfo::baseTransferPriceInTransferModel2(const VelTarmPriceKey& theKey,
                                                         const VelOrderStatistic* theStatistic) const
 {
-    if (!theStatistic)
-        return 0;
-    int highest = 0;
-    const QMap<VelProductAbstract*, int> items = theStatistic->items();
-    for (auto item = items.cbegin(); item != items.cend(); ++item)
-        highest = qMax(highest, item.key()->baseTransferPrice(theKey));
-    return highest;
+    return transferCharges(theKey, theStatistic).myBase;
 }
 
 int VelTarmPriceInfo::unitTransferPriceInTransferModel2(const VelTarmPriceKey& theKey,
                                                         const VelOrderStatistic* theStatistic) const
 {
-    if (!theStatistic)
-        return 0;
-    int sum = 0;
-    int leadersUnitPrice = 0;
-    int highest = 0;
-    bool hasLeader = false;
-    const QMap<VelProductAbstract*, int> items = theStatistic->items();
+    return transferCharges(theKey, theStatistic).myUnits;
+}
+
+/// The base charge is never below 0, while the leader of the unit charges may have any.
+VelTarmPriceInfo::TransferCharges VelTarmPriceInfo::transferCharges(const VelTarmPriceKey& theKey,
+                                                                    const VelOrderStatistic* theStatistic)
+{
+    int units = 0;
+    const VelTarmPriceValue* leader = nullptr;
+    const auto items = theStatistic ? theStatistic->items() : QMap<VelProductAbstract*, int>();
     for (auto item = items.cbegin(); item != items.cend(); ++item) {
-        const int basePrice = item.key()->baseTransferPrice(theKey);
-        const int unitPrice = item.key()->unitTransferPrice(theKey);
-        if (!hasLeader || highest < basePrice) { // of equal ones the first stays in the lead
-            hasLeader = true;
-            highest = basePrice;
-            leadersUnitPrice = unitPrice;
-        }
-        sum = VelArithmetic::sum(sum, VelArithmetic::product(unitPrice, item.value()));
+        const VelTarmPriceValue* value = item.key()->tarmArticle()->basePriceValue(theKey);
+        if (!leader || leader->baseTransferPrice() < value->baseTransferPrice()) // the first of equal ones leads
+            leader = value;
+        units = VelArithmetic::sum(units, VelArithmetic::product(value->unitTransferPrice(), item.value()));
     }
-    return VelArithmetic::difference(sum, leadersUnitPrice);
+    if (!leader)
+        return {0, 0};
+    return {qMax(0, leader->baseTransferPrice()), VelArithmetic::difference(units, leader->unitTransferPrice())};
 }
 
 int VelTarmPriceInfo::baseTransferPrice(const VelTarmPriceKey& theKey) const

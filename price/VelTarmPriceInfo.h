@@ -133,6 +133,9 @@ public:
     int baseTransferPrice(const VelTarmPriceKey& theKey) const;
     int unitTransferPrice(const VelTarmPriceKey& theKey) const;
 
+    /// Asks the processor for the memory of an order source's prices, which will be needed soon. Changes nothing.
+    void prefetch(const VelOrderSource& theSource) const;
+
 private:
     using Prices = std::vector<VelTarmStoredPrice>;
 
@@ -143,6 +146,13 @@ private:
         const VelTarmStoredPrice* myEnd;
         const VelTarmStoredPrice* begin() const { return myBegin; }
         const VelTarmStoredPrice* end() const { return myEnd; }
+    };
+
+    /// What an order pays for shipping under TRANSFER_MODEL_2, in cents.
+    struct TransferCharges
+    {
+        int myBase;
+        int myUnits;
     };
 
     /// A line that a rule asks for, while nobody has said yet whether it goes to a bill.
@@ -182,6 +192,7 @@ private:
     static Answer noAnswer();
     static Answer answerOf(VelDiscountModel theModel, int thePrice);
     static Answer answerOf(VelDiscountModel theModel, int thePrice, const Charge& theCharge);
+    static TransferCharges transferCharges(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic);
     int inheritedLevel(const VelTarmBill* theBill) const;
     Answer bestAnswer(const VelOrderSource& theSource, int theCount, int theBillingSum, int theInheritedLevel) const;
     Answer answer(const VelTarmPricePlace& thePlace, int theCount, int theBillingSum) const;

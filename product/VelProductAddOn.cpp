@@ -4,6 +4,8 @@
 #include "product/VelProductStorage.h"
 #include "sibling/VelXMLParser.h"
 
+#include <algorithm>
+
 namespace {
 
 const QString STR_LINKED_ARTICLES = QStringLiteral("linked_articles");
@@ -33,6 +35,8 @@ VelProductAddOn::VelProductAddOn(const QDomElement& theElement)
         if (articleID != NO_ARTICLE)
             myArticleIDs.append(articleID);
     }
+    mySortedArticleIDs.assign(myArticleIDs.cbegin(), myArticleIDs.cend());
+    std::sort(mySortedArticleIDs.begin(), mySortedArticleIDs.end());
 }
 
 void* VelProductAddOn::operator new(std::size_t theSize)
@@ -43,6 +47,11 @@ void* VelProductAddOn::operator new(std::size_t theSize)
 void VelProductAddOn::operator delete(void* theObject, std::size_t theSize)
 {
     VelProductStorage::release(theObject, theSize);
+}
+
+bool VelProductAddOn::isCompatibleWithArticleId(int theArticleID) const
+{
+    return std::binary_search(mySortedArticleIDs.begin(), mySortedArticleIDs.end(), theArticleID);
 }
 
 bool VelProductAddOn::matches(int theArticleID, const QString& theProductClass) const

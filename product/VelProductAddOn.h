@@ -5,6 +5,8 @@
 
 #include <QList>
 
+#include <vector>
+
 /// Anything sold only together with a main product: a design, frame, wall holder, page package, map or video.
 ///
 /// The linked articles and the product class are read once, with the first element; an update leaves them.
@@ -25,7 +27,7 @@ public:
     QString productClass() const { return myProductClassWord; }
 
     /// Whether the main product is one of articleIDs().
-    bool isCompatibleWithArticleId(int theArticleID) const { return myArticleIDs.contains(theArticleID); }
+    bool isCompatibleWithArticleId(int theArticleID) const;
 
     /// Compatible with the article, and of that product class, case-sensitively.
     bool matches(int theArticleID, const QString& theProductClass) const;
@@ -45,6 +47,7 @@ public:
 
 private:
     QList<int> myArticleIDs;
+    std::vector<int> mySortedArticleIDs; ///< the same ids, to be searched: an add-on may fit very many articles
     QString myProductClassWord;
 };
 
