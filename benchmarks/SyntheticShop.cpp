@@ -8,8 +8,12 @@ namespace {
 
 using Attributes = QVector<QPair<const char*, QString>>;
 
-const int ARTICLES_PER_ADD_ON = 20;
 const int KINDS = 10;
+const int ID_SPREAD = 20; // keeps the ids of sizes apart that differ by a twentieth or more
+const int BOOK_ID_WITHOUT_ADD_ONS = 9210;
+const int BOOKS = 2;
+const int BOOK_PARTS = 5;
+const int FIRST_BOOK_PART_ID = 9950000;
 
 class PriceListWriter
 {
@@ -35,10 +39,9 @@ public:
     }
     void text(const char* theTag, const QString& theText) { myXml.writeTextElement(QLatin1String(theTag), theText); }
 
-    void price(const char* theType, int theLevel, int theQuantity, int thePrice,
-               const Attributes& theFurther = Attributes())
+    void price(char theLetter, int theLevel, int theQuantity, int thePrice, const Attributes& theFurther = Attributes())
     {
-        Attributes attributes{{"type", QLatin1String(theType)}};
+        Attributes attributes{{"type", QString(QLatin1Char(theLetter))}};
         if (theLevel > 0) {
             attributes.append({"level", QString::number(theLevel)});
             attributes.append({"quantity", QString::number(theQuantity)});
@@ -73,51 +76,60 @@ void writeShippingTimes(PriceListWriter& theWriter)
 
 void writeLadder(PriceListWriter& theWriter, int thePrice, const Attributes& theFurther)
 {
-    theWriter.price("B", 1, 25, thePrice * 9 / 10, theFurther);
-    theWriter.price("B", 2, 50, thePrice * 8 / 10, theFurther);
-    theWriter.price("B", 3, 100, thePrice * 7 / 10, theFurther);
+    theWriter.price('B', 1, 25, thePrice * 9 / 10, theFurther);
+    theWriter.price('B', 2, 50, thePrice * 8 / 10, theFurther);
+    theWriter.price('B', 3, 100, thePrice * 7 / 10, theFurther);
+}
+
+/// Each hundredth article is a package that makes shipping free; other packages don't, or hardly any bill would pay it.
+const char* packageLetters(int theNumber)
+{
+    return theNumber % 100 == 7 ? "Pp" : "Ll";
 }
 
 /// Five kinds of ten are plain ladders, two differ by delivery type, one is a package, one a running offer, one has a
 /// base price alone.
-void writePrices(PriceListWriter& theWriter, int theKind, int thePrice)
+void writePrices(PriceListWriter& theWriter, int theNumber)
 {
+    const int kind = theNumber % KINDS;
+    const int price = 10 + theNumber % 90;
     const Attributes pickup{{"input_source", QStringLiteral("0")}, {"delivery_type", QStringLiteral("0")}};
     const Attributes mail{{"input_source", QStringLiteral("0")}, {"delivery_type", QStringLiteral("1")}};
-    const Attributes offer{{"non_offer_price", QString::number(thePrice + 50)},
+    const Attributes offer{{"non_offer_price", QString::number(price + 50)},
                            {"end_offer_date", QStringLiteral("2099-12-31T23:59:59")}};
-    const Attributes transfer{{"transfer_base_price", QStringLiteral("390")},
-                              {"transfer_unit_price", QStringLiteral("50")}};
+    const Attributes transfer{{"transfer_base_price", QString::number(390 + 10 * kind)},
+                              {"transfer_unit_price", QString::number(50 + kind)}};
     theWriter.start("base_prices");
-    if (theKind == 5 || theKind == 6) {
-        theWriter.price("B", 0, 0, thePrice, transfer + pickup);
-        theWriter.price("B", 0, 0, thePrice + 10, transfer + mail);
+    if (kind == 5 || kind == 6) {
+        theWriter.price('B', 0, 0, price, transfer + pickup);
+        theWriter.price('B', 0, 0, price + 10, transfer + mail);
     } else {
-        theWriter.price("B", 0, 0, thePrice, theKind == 8 ? transfer + offer : transfer);
+        theWriter.price('B', 0, 0, price, kind == 8 ? transfer + offer : transfer);
     }
     theWriter.end();
-    if (theKind == 9)
+    if (kind == 9)
         return;
     theWriter.start("discount_prices");
-    if (theKind == 5 || theKind == 6) {
-        writeLadder(theWriter, thePrice, pickup);
-        writeLadder(theWriter, thePrice + 10, mail);
-    } else if (theKind == 7) {
-        theWriter.price("P", 1, 10, thePrice * 8);
-        theWriter.price("P", 2, 51, thePrice * 38);
-        theWriter.price("p", 3, 101, thePrice * 7 / 10);
+    if (kind == 5 || kind == 6) {
+        writeLadder(theWriter, price, pickup);
+        writeLadder(theWriter, price + 10, mail);
+    } else if (kind == 7) {
+        const char* letters = packageLetters(theNumber);
+        theWriter.price(letters[0], 1, 10, price * 8);
+        theWriter.price(letters[0], 2, 51, price * 38);
+        theWriter.price(letters[1], 3, 101, price * 7 / 10);
     } else {
-        writeLadder(theWriter, thePrice, Attributes());
+        writeLadder(theWriter, price, Attributes());
     }
     theWriter.end();
 }
 
-void writeArticle(PriceListWriter& theWriter, int theNumber)
+void writeArticle(PriceListWriter& theWriter, int theFirstId, int theNumber)
 {
     const int kind = theNumber % KINDS;
     const bool isGift = kind == 4 || kind == 9;
     theWriter.start("article",
-                    {{"id", QString::number(FIRST_ARTICLE_ID + theNumber)},
+                    {{"id", QString::number(theFirstId + theNumber)},
                      {"name", QStringLiteral("%1x15 Artikel %2").arg(9 + kind).arg(theNumber)},
                      {"editor_name", QStringLiteral("Print %1 x 15 cm, no. %2").arg(9 + kind).arg(theNumber)},
                      {"group", QString::number(kind % 7 + 1)},
@@ -131,44 +143,127 @@ void writeArticle(PriceListWriter& theWriter, int theNumber)
                {isGift ? QStringLiteral("TYPE=LFP101") : QStringLiteral("SALESLINE=3"), QStringLiteral("FINISH=GLOSSY"),
                 QStringLiteral("BORDER=1")});
     writeShippingTimes(theWriter);
-    writePrices(theWriter, kind, 10 + theNumber % 90);
+    writePrices(theWriter, theNumber);
     theWriter.end();
 }
 
-void writeAddOn(PriceListWriter& theWriter, int theNumber)
+/// A book of 26 to 98 pages, and a second one that no add-on fits.
+void writeBook(PriceListWriter& theWriter, int theId)
 {
-    theWriter.start("add_on", {{"id", QString::number(FIRST_ADD_ON_ID + theNumber)},
-                               {"name", QStringLiteral("Zubehör %1").arg(theNumber)},
-                               {"editor_name", QStringLiteral("Accessory no. %1").arg(theNumber)},
+    theWriter.start("article", {{"id", QString::number(theId)},
+                                {"name", QStringLiteral("Fotobuch %1").arg(theId)},
+                                {"editor_name", QStringLiteral("Photo book no. %1").arg(theId)},
+                                {"group", QStringLiteral("4")},
+                                {"arrangement", QStringLiteral("photobook")},
+                                {"min_pages", QStringLiteral("26")},
+                                {"max_pages", QStringLiteral("98")},
+                                {"page_step", QStringLiteral("8")}});
+    writeLines(theWriter, QStringLiteral("[BOOK]"), {QStringLiteral("TYPE=ALB8")});
+    theWriter.start("base_prices");
+    theWriter.price('B', 0, 0, 2795);
+    theWriter.end();
+    theWriter.end();
+}
+
+struct AddOn
+{
+    int myId;
+    const char* myHead;
+    const char* myClass;
+    char myLetter;
+    int myPrice;
+    int myFirstLink;
+    int myLinks;
+    int myLinkStep;
+};
+
+/// Three levels 25 pieces apart, of which only a model that inherits the level makes use without such a quantity.
+void writeAddOn(PriceListWriter& theWriter, const AddOn& theAddOn)
+{
+    const int number = theAddOn.myId % 10000; // short, and so of different lengths
+    theWriter.start("add_on", {{"id", QString::number(theAddOn.myId)},
+                               {"name", QStringLiteral("Zubehör %1").arg(number)},
+                               {"editor_name", QStringLiteral("Accessory no. %1").arg(number)},
                                {"group", QStringLiteral("7")},
-                               {"product_class", QStringLiteral("GPT1")}});
-    writeLines(theWriter, QStringLiteral("[ACCESSORY]"), {QStringLiteral("KIND=GIFTBOX")});
+                               {"product_class", QLatin1String(theAddOn.myClass)}});
+    writeLines(theWriter, QLatin1String(theAddOn.myHead), {QStringLiteral("KIND=ACCESSORY")});
     theWriter.start("base_prices");
     for (int level = 0; level < 3; ++level)
-        theWriter.price("I", level, level * 25, 390 - 20 * level);
+        theWriter.price(theAddOn.myLetter, level, level * 25, theAddOn.myPrice - 20 * level);
     theWriter.end();
     theWriter.start("linked_articles");
-    for (int link = 0; link < ARTICLES_PER_ADD_ON; ++link)
-        theWriter.empty("linked_article",
-                        {{"id", QString::number(FIRST_ARTICLE_ID + theNumber * ARTICLES_PER_ADD_ON + link)}});
+    for (int link = 0; link < theAddOn.myLinks; ++link)
+        theWriter.empty("linked_article", {{"id", QString::number(theAddOn.myFirstLink + link * theAddOn.myLinkStep)}});
     theWriter.end();
     theWriter.end();
 }
 
-/// The shipping groups 1 and 2: by quantity under transfer model 1, and by the products under transfer model 2.
+/// Those of a few articles, those of a tenth of the list, and those that a book is composed with.
+void writeAddOns(PriceListWriter& theWriter, int theArticleCount)
+{
+    for (int number = 0; number < theArticleCount / ARTICLES_PER_ADD_ON; ++number)
+        writeAddOn(theWriter, {firstAddOnId(theArticleCount) + number, "[ACCESSORY]", "GPT1", 'I', 390,
+                               firstArticleId(theArticleCount) + number * ARTICLES_PER_ADD_ON, ARTICLES_PER_ADD_ON, 1});
+    for (int number = 0; number < WIDE_ADD_ONS; ++number)
+        writeAddOn(theWriter, {firstWideAddOnId(theArticleCount) + number, "[ACCESSORY]", "WH2", 'I', 490,
+                               firstArticleId(theArticleCount) + number, theArticleCount / KINDS, KINDS});
+    writeAddOn(theWriter, {FIRST_BOOK_PART_ID, "[PAGES]", "PAG1", 'I', 249, BOOK_ID, 1, 1});
+    writeAddOn(theWriter, {FIRST_BOOK_PART_ID + 1, "[MAP]", "MAP1", 'B', 150, BOOK_ID, 1, 1});
+    writeAddOn(theWriter, {FIRST_BOOK_PART_ID + 2, "[VIDEO]", "VDO1", 'B', 99, BOOK_ID, 1, 1});
+    writeAddOn(theWriter, {FIRST_BOOK_PART_ID + 3, "[CONTENT]", "100", 'I', 60, BOOK_ID, 1, 1});
+    writeAddOn(theWriter, {FIRST_BOOK_PART_ID + 4, "[CONTENT]", "200", 'I', 80, BOOK_ID, 1, 1});
+}
+
+void startTransfer(PriceListWriter& theWriter, int theGroup, int theModel)
+{
+    theWriter.start("transfer", {{"id", QString::number(11000 + theGroup)},
+                                 {"group", QString::number(theGroup)},
+                                 {"model", QString::number(theModel)}});
+    theWriter.start("base_prices");
+}
+
+void endTransfer(PriceListWriter& theWriter)
+{
+    theWriter.end();
+    theWriter.end();
+}
+
+/// The shipping groups 1 and 3 under transfer model 1, by quantity and by bill sum, and 2 under transfer model 2.
 void writeTransfers(PriceListWriter& theWriter)
 {
     theWriter.start("transfers");
-    theWriter.start("transfer", {{"id", QStringLiteral("11001")}, {"group", QStringLiteral("1")}});
+    startTransfer(theWriter, 1, 1);
+    theWriter.price('F', 0, 0, 295);
+    theWriter.price('F', 1, 100, 495);
+    endTransfer(theWriter);
+    startTransfer(theWriter, 2, 2);
+    theWriter.price('F', 0, 0, 0);
+    endTransfer(theWriter);
+    startTransfer(theWriter, 3, 1);
+    theWriter.price('F', 0, 0, 395);
+    theWriter.price('Z', 1, 30000, 195);
+    theWriter.price('Z', 2, 60000, 0);
+    endTransfer(theWriter);
+    theWriter.end();
+}
+
+/// Invoice, and the faster of the express types for the shipping group 1.
+void writeFees(PriceListWriter& theWriter)
+{
+    theWriter.start("paymethod_fees");
+    theWriter.start("paymethod_fee", {{"id", QStringLiteral("12003")}, {"pay_method_id", QStringLiteral("3")}});
     theWriter.start("base_prices");
-    theWriter.price("F", 0, 0, 295);
-    theWriter.price("F", 1, 100, 495);
+    theWriter.price('B', 0, 0, 95);
     theWriter.end();
     theWriter.end();
-    theWriter.start("transfer",
-                    {{"id", QStringLiteral("11002")}, {"group", QStringLiteral("2")}, {"model", QStringLiteral("2")}});
+    theWriter.end();
+    theWriter.start("express_fees");
+    theWriter.start(
+        "express_fee",
+        {{"id", QStringLiteral("13041")}, {"group", QStringLiteral("1")}, {"express", QStringLiteral("1")}});
     theWriter.start("base_prices");
-    theWriter.price("F", 0, 0, 0);
+    theWriter.price('X', 0, 0, 490);
+    theWriter.price('X', 1, 50, 790);
     theWriter.end();
     theWriter.end();
     theWriter.end();
@@ -183,13 +278,35 @@ QByteArray syntheticPriceList(int theArticleCount)
     writer.start("pricelist");
     writer.start("articles");
     for (int number = 0; number < theArticleCount; ++number)
-        writeArticle(writer, number);
+        writeArticle(writer, firstArticleId(theArticleCount), number);
+    writeBook(writer, BOOK_ID);
+    writeBook(writer, BOOK_ID_WITHOUT_ADD_ONS);
     writer.end();
     writer.start("add_ons");
-    for (int number = 0; number < theArticleCount / ARTICLES_PER_ADD_ON; ++number)
-        writeAddOn(writer, number);
+    writeAddOns(writer, theArticleCount);
     writer.end();
     writeTransfers(writer);
+    writeFees(writer);
     writer.end();
     return bytes;
+}
+
+int syntheticProductCount(int theArticleCount)
+{
+    return theArticleCount + BOOKS + theArticleCount / ARTICLES_PER_ADD_ON + WIDE_ADD_ONS + BOOK_PARTS;
+}
+
+int firstArticleId(int theArticleCount)
+{
+    return 1000000 + ID_SPREAD * theArticleCount;
+}
+
+int firstAddOnId(int theArticleCount)
+{
+    return 5000000 + ID_SPREAD * theArticleCount;
+}
+
+int firstWideAddOnId(int theArticleCount)
+{
+    return 9000000 + theArticleCount;
 }

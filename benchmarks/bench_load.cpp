@@ -1,11 +1,15 @@
 #include "benchmarks/PriceListFile.h"
 #include "product/VelProductRegistry.h"
+#include "product/VelProductStorage.h"
 
 #include <QDomDocument>
 
 #include <benchmark/benchmark.h>
 
+#include <cstdint>
 #include <memory>
+
+#include <malloc.h>
 
 namespace {
 
@@ -25,7 +29,7 @@ void countBytes(benchmark::State& theState, const QByteArray& theBytes)
 /// The floor: the tree alone, parsed and freed.
 void bareParse(benchmark::State& theState)
 {
-    const PriceListFile file(countOf(theState));
+    const PriceListFile& file = PriceListFile::ofKeyAccount(countOf(theState));
     for (auto _ : theState) {
         QDomDocument document;
         if (!document.setContent(file.bytes()))
@@ -37,8 +41,8 @@ void bareParse(benchmark::State& theState)
 /// From the file to a ready registry, the tree freed.
 void load(benchmark::State& theState)
 {
-    const PriceListFile file(countOf(theState));
-    const int expected = countOf(theState) + countOf(theState) / 20;
+    const PriceListFile& file = PriceListFile::ofKeyAccount(countOf(theState));
+    const int expected = syntheticProductCount(countOf(theState));
     for (auto _ : theState) {
         auto registry = std::make_unique<VelProductRegistry>();
         theState.PauseTiming();
@@ -53,28 +57,70 @@ void load(benchmark::State& theState)
 /// The same file again, into the products at hand.
 void reload(benchmark::State& theState)
 {
-    const PriceListFile file(countOf(theState));
+    const PriceListFile& file = PriceListFile::ofKeyAccount(countOf(theState));
     VelProductRegistry registry;
     for (auto _ : theState)
         registry.loadAllProducts();
     countBytes(theState, file.bytes());
 }
 
-/// A reload without the parse: the products alone.
+/// A reload without the parse: the products alone, each time from a new tree, as after each parse.
 void reloadObjects(benchmark::State& theState)
 {
-    const PriceListFile file(countOf(theState));
-    QDomDocument document;
-    document.setContent(file.bytes());
+    const PriceListFile& file = PriceListFile::ofKeyAccount(countOf(theState));
     VelProductRegistry registry;
-    for (auto _ : theState)
-        registry.updateProducts(document.documentElement());
+    for (auto _ : theState) {
+        theState.PauseTiming();
+        auto document = std::make_unique<QDomDocument>();
+        document->setContent(file.bytes());
+        theState.ResumeTiming();
+        registry.updateProducts(document->documentElement());
+        theState.PauseTiming();
+        document.reset();
+        theState.ResumeTiming();
+    }
     countBytes(theState, file.bytes());
 }
 
-BENCHMARK(bareParse)->Arg(1000)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
-BENCHMARK(load)->Arg(1000)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
-BENCHMARK(reload)->Arg(1000)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
-BENCHMARK(reloadObjects)->Arg(1000)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
+/// Where the next object of a shelf would lie.
+const char* nextOn(VelProductStorage::Shelf theShelf)
+{
+    void* next = VelProductStorage::allocate(theShelf, 1);
+    VelProductStorage::release(next, 1);
+    return static_cast<const char*>(next);
+}
+
+/// What the heap and the shelves hold now. The shelves' reserve is part of the heap, used or not: only a difference
+/// says anything.
+std::int64_t liveBytes()
+{
+    using namespace VelProductStorage;
+    std::int64_t bytes =
+        static_cast<std::int64_t>(mallinfo2().uordblks) + static_cast<std::int64_t>(mallinfo2().hblkhd);
+    for (const Shelf shelf : {SHELF_MAIN_PRODUCTS, SHELF_ADD_ONS, SHELF_ARTICLES})
+        bytes += reinterpret_cast<std::intptr_t>(nextOn(shelf));
+    return bytes;
+}
+
+/// What a ready registry keeps, in bytes for each byte of the file. The first one fills what is made only once.
+void liveMemory(benchmark::State& theState)
+{
+    const PriceListFile& file = PriceListFile::ofKeyAccount(countOf(theState));
+    std::make_unique<VelProductRegistry>().reset();
+    const std::int64_t before = liveBytes();
+    std::unique_ptr<VelProductRegistry> registry;
+    for (auto _ : theState)
+        registry = std::make_unique<VelProductRegistry>();
+    const auto live = static_cast<double>(liveBytes() - before);
+    theState.counters["live_bytes"] = live;
+    theState.counters["of_file"] = live / file.bytes().size();
+}
+
+#define SIZES Arg(1000)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond)
+BENCHMARK(bareParse)->SIZES;
+BENCHMARK(load)->SIZES;
+BENCHMARK(reload)->SIZES;
+BENCHMARK(reloadObjects)->SIZES;
+BENCHMARK(liveMemory)->SIZES->Iterations(1);
 
 } // namespace

@@ -2,9 +2,31 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <limits>
 
 #include <malloc.h>
+
+namespace {
+
+/// The usual table, which also knows whether a benchmark was given up because its amounts are wrong.
+class Reporter : public benchmark::ConsoleReporter
+{
+public:
+    Reporter() : ConsoleReporter(OO_Tabular) {}
+    void ReportRuns(const std::vector<Run>& theRuns) override
+    {
+        ConsoleReporter::ReportRuns(theRuns);
+        myHasErrors |=
+            std::any_of(theRuns.begin(), theRuns.end(), [](const Run& theRun) { return theRun.error_occurred; });
+    }
+    bool hasErrors() const { return myHasErrors; }
+
+private:
+    bool myHasErrors = false;
+};
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
@@ -17,8 +39,9 @@ int main(int argc, char* argv[])
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {}); // of no use in a table
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
+        return 2;
+    Reporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();
-    return 0;
+    return reporter.hasErrors() ? 1 : 0;
 }

@@ -1,3 +1,4 @@
+#include "benchmarks/FlatPricing.h"
 #include "price/VelTarmPriceKey.h"
 #include "product/VelProduct.h"
 
@@ -7,14 +8,10 @@
 
 namespace {
 
-const VelOrderSource MAIL = VelOrderSource::onlineMailOrder();
-
-QDomElement article(const QString& thePrices)
+QString article(const QString& thePrices)
 {
-    QDomDocument document;
-    document.setContent(
-        QStringLiteral("<article id='1' arrangement='trivial'><base_prices>%1</base_prices></article>").arg(thePrices));
-    return document.documentElement();
+    return QStringLiteral("<article id='1' arrangement='trivial'><base_prices>%1</base_prices></article>")
+        .arg(thePrices);
 }
 
 const QString BULK = QStringLiteral("<p price='100'/><p level='1' quantity='10' price='90'/>"
@@ -24,36 +21,45 @@ const QString PACKAGE = QStringLiteral("<p type='P' level='1' quantity='1' price
                                        "<p type='P' level='2' quantity='11' price='900'/>"
                                        "<p type='p' level='3' quantity='21' price='40'/>");
 
-/// One query, with its answer checked before it is measured.
-void query(benchmark::State& theState, const QString& thePrices, VelDiscountModel theModel, int theCount,
-           int theExpected)
-{
-    const VelProduct product(article(thePrices));
-    const VelTarmPriceKey key(MAIL, -1, theModel);
-    if (product.price(key, theCount, 5000) != theExpected)
-        theState.SkipWithError("wrong amount");
-    for (auto _ : theState)
-        benchmark::DoNotOptimize(product.price(key, theCount, 5000));
-}
+const int BILLING_SUM = 5000;
 
+/// One query, with its answer checked before it is measured.
 void priceFor(benchmark::State& theState, const QString& thePrices, int theCount, int theExpected)
 {
-    query(theState, thePrices, DISCOUNT_MODEL_UNDEFINED, theCount, theExpected);
+    QDomDocument document;
+    document.setContent(article(thePrices));
+    const VelProduct product(document.documentElement());
+    const VelTarmPriceKey key(VelOrderSource::onlineMailOrder(), -1, DISCOUNT_MODEL_UNDEFINED);
+    if (product.price(key, theCount, BILLING_SUM) != theExpected)
+        theState.SkipWithError("wrong amount");
+    for (auto _ : theState)
+        benchmark::DoNotOptimize(product.price(key, theCount, BILLING_SUM));
 }
 
-BENCHMARK_CAPTURE(priceFor, bulk, BULK, 60, 4800);
-BENCHMARK_CAPTURE(priceFor, bulkBaseOnly, QStringLiteral("<p price='100'/>"), 60, 6000);
-BENCHMARK_CAPTURE(priceFor, package, PACKAGE, 25, 1100);
-BENCHMARK_CAPTURE(
-    priceFor, levelPackage,
-    QString(PACKAGE).replace(QLatin1Char('P'), QLatin1Char('L')).replace(QStringLiteral("'p'"), QStringLiteral("'l'")),
-    25, 1100);
-BENCHMARK_CAPTURE(priceFor, bulkAndPackage, BULK + PACKAGE, 25, 1100);
-BENCHMARK_CAPTURE(priceFor, inherited, QStringLiteral("<p type='I' price='390'/>"), 3, 1170);
-BENCHMARK_CAPTURE(priceFor, bulkTransfer,
-                  QStringLiteral("<p type='F' price='395'/><p type='F' level='1' quantity='2' price='495'/>"), 3, 495);
-BENCHMARK_CAPTURE(priceFor, billingSumTransfer,
-                  QStringLiteral("<p type='F' price='395'/><p type='Z' level='1' quantity='4000' price='0'/>"), 3, 0);
-BENCHMARK_CAPTURE(query, expressFee, QStringLiteral("<p type='X' price='490'/>"), DISCOUNT_MODEL_EXPRESS_FEE, 3, 490);
+void flatPriceFor(benchmark::State& theState, const QString& thePrices, int theCount, int theExpected)
+{
+    const QString list = QStringLiteral("<pricelist><articles>%1</articles></pricelist>").arg(article(thePrices));
+    const FlatPricing pricing(readPriceRows(list.toUtf8()));
+    const FlatQuery query{theCount, BILLING_SUM, 0};
+    if (pricing.price(0, SOURCE_ONLINE_MAIL_ORDER, query) != theExpected)
+        theState.SkipWithError("wrong amount");
+    for (auto _ : theState)
+        benchmark::DoNotOptimize(pricing.price(0, SOURCE_ONLINE_MAIL_ORDER, query));
+}
+
+#define BENCHMARK_PRICES(theName, ...)                                                                                 \
+    BENCHMARK_CAPTURE(priceFor, theName, __VA_ARGS__);                                                                 \
+    BENCHMARK_CAPTURE(flatPriceFor, theName, __VA_ARGS__)
+
+BENCHMARK_PRICES(bulk, BULK, 60, 4800);
+BENCHMARK_PRICES(bulkBaseOnly, QStringLiteral("<p price='100'/>"), 60, 6000);
+BENCHMARK_PRICES(package, PACKAGE, 25, 1100);
+BENCHMARK_PRICES(bulkAndPackage, BULK + PACKAGE, 25, 1100);
+BENCHMARK_PRICES(inherited, QStringLiteral("<p type='I' price='390'/>"), 3, 1170);
+BENCHMARK_PRICES(bulkTransfer,
+                 QStringLiteral("<p type='F' price='395'/><p type='F' level='1' quantity='2' price='495'/>"), 3, 495);
+BENCHMARK_PRICES(billingSumTransfer,
+                 QStringLiteral("<p type='F' price='395'/><p type='Z' level='1' quantity='4000' price='0'/>"), 3, 0);
+BENCHMARK_PRICES(expressFee, QStringLiteral("<p type='X' price='490'/>"), 3, 490);
 
 } // namespace

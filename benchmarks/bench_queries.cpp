@@ -19,7 +19,7 @@ const VelProductRegistry& registry(int theArticleCount)
     static QMap<int, std::shared_ptr<VelProductRegistry>> registries;
     std::shared_ptr<VelProductRegistry>& known = registries[theArticleCount];
     if (!known) {
-        const PriceListFile file(theArticleCount);
+        PriceListFile::ofKeyAccount(theArticleCount);
         known = std::make_shared<VelProductRegistry>();
     }
     return *known;
@@ -41,7 +41,8 @@ void measure(benchmark::State& theState, Query theQuery)
 
 void productWithArticleID(benchmark::State& theState)
 {
-    const int last = FIRST_ARTICLE_ID + static_cast<int>(theState.range(0)) - 1;
+    const auto size = static_cast<int>(theState.range(0));
+    const int last = firstArticleId(size) + size - 1;
     measure(theState, [=](const VelProductRegistry& theRegistry) { return theRegistry.productWithArticleID(last); });
 }
 
@@ -66,8 +67,8 @@ void discountLimits(benchmark::State& theState)
 
 void possibleAddOns(benchmark::State& theState)
 {
-    measure(theState,
-            [](const VelProductRegistry& theRegistry) { return theRegistry.possibleAddOns(FIRST_ARTICLE_ID); });
+    const int first = firstArticleId(static_cast<int>(theState.range(0)));
+    measure(theState, [=](const VelProductRegistry& theRegistry) { return theRegistry.possibleAddOns(first); });
 }
 
 void orderTxtHeadNotFound(benchmark::State& theState)
@@ -95,10 +96,20 @@ bool sortByExpression(VelProductAbstract* theLeft, VelProductAbstract* theRight)
     return QString::compare(left, right, Qt::CaseInsensitive) < 0;
 }
 
+/// The first shipping group with all add-ons, as the document has them.
+VelProductList unsortedGroup(const benchmark::State& theState)
+{
+    VelProductList products;
+    for (VelProductAbstract* product : registryOf(theState).productList())
+        if (product->isAddOn() || product->shippingGroupId() == 1)
+            products.append(product);
+    return products;
+}
+
 template <typename Sort>
 void measureSort(benchmark::State& theState, Sort theSort)
 {
-    const VelProductList products = registryOf(theState).productList();
+    const VelProductList products = unsortedGroup(theState);
     for (auto _ : theState) {
         VelProductList sorted = products;
         theSort(sorted);
@@ -108,7 +119,7 @@ void measureSort(benchmark::State& theState, Sort theSort)
 
 void sortByNumberOnce(benchmark::State& theState)
 {
-    VelProductList expected = registryOf(theState).productList();
+    VelProductList expected = unsortedGroup(theState);
     VelProductList sorted = expected;
     qSort(expected.begin(), expected.end(), sortByExpression);
     sortProductsByNumber(sorted);
