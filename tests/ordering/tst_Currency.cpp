@@ -1,19 +1,42 @@
 #include "ordering/VelCurrency.h"
-#include "support/VelTestMain.h"
+#include "ordering/VelCurrencyConfig.h"
+#include "sibling/VelDirectoryConfig.h"
+#include "support/VelTestAccount.h"
+
+#include <cstdio>
 
 namespace {
 
-VelCurrency currency(const QString& theFields)
+/// Of the euro and of a franc that looks different in everything.
+const char* const EURO_AND_FRANC = "<c><x isocode='EUR'/><x isocode='CHF'><symbol>CHF</symbol>"
+                                   "<symbolHTML>Fr.</symbolHTML><decimalsep>.</decimalsep>"
+                                   "<symbolinfront>1</symbolinfront><decimalplaces>1</decimalplaces></x></c>";
+
+/// Makes an account of these documents the application's: currencies, "EUR+CHF" for those above, and a section of the
+/// details.
+void use(const TestAccount& theAccount, QString theCurrencies, const QString& theDetails)
 {
-    return VelCurrency(parsedElement(QStringLiteral("<any isocode='TST'>%1</any>").arg(theFields)));
+    theAccount.write("currencies.xml", theCurrencies.replace("EUR+CHF", EURO_AND_FRANC).toUtf8());
+    VelDirectoryConfig::instance()->setConfigurationDirectory(theAccount.path());
+    theAccount.activateWithDetails("<o><currencies>" + theDetails.toUtf8() + "</currencies></o>");
 }
 
-QString fieldsOf(const VelCurrency& theCurrency)
+/// The configuration lives once in a process, so other accounts are tried in child processes, which run this instead of
+/// the tests: the texts of the account of two documents on the standard output.
+void printTexts()
 {
-    const QStringList texts{theCurrency.genericName(), theCurrency.symbol(), theCurrency.symbolHTML(),
-                            theCurrency.decimalSep(), theCurrency.symbolInFront() ? "front" : "behind"};
-    return texts.join('/') + '/' + QString::number(theCurrency.decimalPlaces());
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) != "--print")
+        return;
+    const TestAccount account;
+    use(account, arguments.value(2), arguments.value(3));
+    const VelCurrencyConfig* config = VelCurrencyConfig::instance();
+    const QStringList texts{config->fullText(999, true, false, false), config->fullText(-999, true, false, true),
+                            config->text(0, true), config->currencySymbol(true, true)};
+    std::fputs(texts.join('/').toUtf8().constData(), stdout);
+    std::exit(0);
 }
+Q_COREAPP_STARTUP_FUNCTION(printTexts)
 
 } // namespace
 
@@ -24,79 +47,70 @@ class TestCurrency : public QObject
 private slots:
     void amounts_data()
     {
+        // Of all places only two pad. An empty symbol prints as nothing, but the blank beside it stays.
         readTable(R"(
-            row                      | amount      | places      | front | expected
-            two places               | 1234        | 2           | 0     | 12,34 €
-            in front                 | 1234        | 2           | 1     | € 12,34
-            last padded              | 109         | 2           | 0     | 1,09 €
-            first not padded         | 110         | 2           | 0     | 1,10 €
-            negative below one unit  | -5          | 2           | 0     | -0,05 €
-            negative in front        | -1234       | 2           | 1     | € -12,34
-            no grouping              | 100000      | 2           | 0     | 1000,00 €
-            no place: not rounded    | 99          | 0           | 0     | 0 €
-            no place: sign stays     | -50         | 0           | 1     | € -0
-            one place: not rounded   | 1299        | 1           | 0     | 12,9 €
-            one place: not padded    | 1205        | 1           | 0     | 12,5 €
-            one place: zero          | 1200        | 1           | 0     | 12,0 €
-            three places: not padded | 1205        | 3           | 0     | 12,5 €
-            most places              | 1234        | 2147483647  | 0     | 12,34 €
-            least places             | 1234        | -2147483648 | 0     | 12, €
-            largest                  | 2147483647  | 2           | 0     | 21474836,47 €
-            most negative            | -2147483648 | 2           | 1     | € -21474836,48
+            row            | amount      | fields                               | expected
+            not padded     | 110         | <symbol>$</symbol><decimalplaces>2,5</decimalplaces> | 1,10 &euro; or 1,10 $
+            in front       | -109        | <symbolinfront> True </symbolinfront> | &euro; -1,09 or € -1,09
+            below one unit | -5          | <symbolHTML/><symbolinfront/>        | -0,05  or -0,05 €
+            no grouping    | 100000      | <symbolHTML>E</symbolHTML>           | 1000,00 E or 1000,00 €
+            no place       | -50         | <decimalplaces>0</decimalplaces>     | -0 &euro; or -0 €
+            one place: cut | 1299        | <decimalplaces> 1 </decimalplaces>   | 12,9 &euro; or 12,9 €
+            three places   | 1205        | <decimalplaces>3</decimalplaces>     | 12,5 &euro; or 12,5 €
+            least places   | 1234        | <decimalplaces>-2147483648</decimalplaces> | 12, &euro; or 12, €
+            lowest amount  | -2147483648 | <decimalsep>: </decimalsep>        | -21474836: 48 &euro; or -21474836: 48 €
         )");
     }
 
     void amounts()
     {
-        const QString fields = "<decimalplaces>%1</decimalplaces><symbolinfront>%2</symbolinfront>";
-        const VelCurrency euro = currency(fields.arg(cell("places"), cell("front")));
-        QCOMPARE(euro.format(number("amount"), false, true), cell("expected"));
-        QCOMPARE(euro.format(number("amount"), true, true), cell("expected").replace("€", "&euro;"));
-        const QString bare = cell("expected").remove("€").trimmed();
-        QCOMPARE(euro.format(number("amount"), false, false), bare);
-        QCOMPARE(euro.format(number("amount"), true, false), bare);
+        const VelCurrency currency(parsedElement("<any isocode='TST'>" + cell("fields") + "</any>"));
+        const int amount = number("amount");
+        QCOMPARE(currency.format(amount, true, true) + " or " + currency.format(amount, false, true), cell("expected"));
     }
 
-    void fields_data()
+    void accounts_data()
     {
         readTable(R"(
-            row          | fields                                      | expected
-            name         | <name>Dollar</name>                         | Dollar/€/&euro;/,/behind/2
-            symbol       | <symbol>$</symbol>                          | Euro/$/&euro;/,/behind/2
-            HTML symbol  | <symbolHTML>&amp;pound;</symbolHTML>        | Euro/€/&pound;/,/behind/2
-            separator    | <decimalsep> :: </decimalsep>               | Euro/€/&euro;/ :: /behind/2
-            in front     | <symbolinfront> True </symbolinfront>       | Euro/€/&euro;/,/front/2
-            places       | <decimalplaces> 3 </decimalplaces>          | Euro/€/&euro;/,/behind/3
-            all empty    | <name/><symbol/><symbolHTML/><decimalsep/><symbolinfront/><decimalplaces/> | ////behind/2
-            no digits    | <decimalplaces>2,5</decimalplaces>          | Euro/€/&euro;/,/behind/2
-            deeper       | <Name>a</Name><x><symbol>b</symbol></x>     | Euro/€/&euro;/,/behind/2
-            first of two | <decimalsep>.</decimalsep><decimalsep>;</decimalsep> | Euro/€/&euro;/./behind/2
+            row               | currencies | details                               | expected
+            both              | EUR+CHF    | <c id='EUR'/><c id='CHF' factor='2'/> | 9,99 €/CHF -4.9/0.0/Fr.
+            no secondary      | EUR+CHF    | <c id='CHF'/>                         | CHF 9.9/CHF -9.9/0.0/Fr.
+            unknown secondary | EUR+CHF    | <c id='EUR'/><c id='XXX' factor='2'/> | 9,99 €/-4,99 €/0,00/&euro;
+            unknown primary   | EUR+CHF    | <c id='XXX'/>                         | ///
+            infinite factor   | EUR+CHF | <c id='EUR'/><c id='CHF' factor='0'/> | 9,99 €/CHF -21474836.4/-21474836.4/Fr.
+            later of one code | <c><x/><y><symbol>E</symbol></y></c> | <c id=''/>  | 9,99 E/-9,99 E/0,00/&euro;
+            none: the end     | <c><!-- --></c> |                                  |
         )");
     }
 
-    void fields() { QCOMPARE(fieldsOf(currency(cell("fields"))), cell("expected")); }
-
-    void isoCode()
+    void accounts()
     {
-        QCOMPARE(currency(QString()).isoCode(), "TST");
-        const MessageCatcher messages;
-        QVERIFY(VelCurrency(parsedElement("<c><isocode>EUR</isocode></c>")).isoCode().isNull()); // an attribute only
-        const QString empty = VelCurrency(parsedElement("<c isocode=''/>")).isoCode();
-        QVERIFY(empty.isEmpty() && !empty.isNull());
-        QCOMPARE(fieldsOf(VelCurrency(QDomElement())), "Euro/€/&euro;/,/behind/2");
-        const QString warning = "VelCurrency::VelCurrency found currency without isocode";
-        QCOMPARE(messages.texts(), (QStringList{warning, warning, warning}));
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(), {"--print", cell("currencies"), cell("details")});
+        QVERIFY(child.waitForFinished());
+        QCOMPARE(QString::fromUtf8(child.readAllStandardOutput()), cell("expected"));
+        QCOMPARE(child.exitStatus(), cell("expected").isEmpty() ? QProcess::CrashExit : QProcess::NormalExit);
+        const QByteArray fatal = "VelCurrencyConfig::VelCurrencyConfig() no currencies defined, building default entry";
+        QCOMPARE(child.readAllStandardError().contains(fatal), cell("expected").isEmpty());
     }
 
-    /// An empty text prints as nothing, but the blank beside it stays.
-    void emptyTexts()
+    /// The currencies stay, with their looks; the factor is the new account's.
+    void changeOfKeyAccount()
     {
-        const QString fields = "<symbol>kr</symbol><symbolHTML></symbolHTML>";
-        QCOMPARE(currency(fields).format(1234, true, true), "12,34 ");
-        QCOMPARE(currency(fields + "<symbolinfront>1</symbolinfront>").format(1234, true, true), " 12,34");
-        const VelCurrency none = currency("<decimalplaces>0</decimalplaces>");
-        QVERIFY(none.formatedSeparator().isEmpty() && !none.formatedSeparator().isNull());
-        QVERIFY(none.formatedFraction(1234).isNull());
+        const TestAccount former;
+        use(former, EURO_AND_FRANC, "<c id='EUR'/><c id='CHF' factor='2.0'/>");
+        const VelCurrencyConfig* config = VelCurrencyConfig::instance();
+        const TestAccount account;
+        use(account, "<c><x isocode='JPY'/></c>", "<c id='CHF'/><c id='EUR' factor='0.5'/>");
+        QCOMPARE(config->fullText(999, false, true, false), "9,99");
+        QCOMPARE(config->fullText(999, true, true, true), "Fr. 19.9");
+        QCOMPARE(config->currency(QString("CHF")), config->currency(true));
+        const MessageCatcher messages;
+        QVERIFY(!config->currency(QString("chf")));
+        QVERIFY(VelCurrency(parsedElement("<c><isocode>EUR</isocode></c>")).isoCode().isNull()); // an attribute only
+        const QStringList warnings{"unknown currency: 'chf'",
+                                   "VelCurrency::VelCurrency found currency without isocode"};
+        QCOMPARE(messages.texts(), warnings);
     }
 };
 

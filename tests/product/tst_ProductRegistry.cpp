@@ -1,206 +1,152 @@
 #include "frame/VelExpressType.h"
+#include "product/VelPageOrganizationCalculatorTarm.h"
 #include "product/VelProduct.h"
 #include "product/VelProductAddOn.h"
+#include "product/VelProductGroupManager.h"
 #include "product/VelProductPrintFun.h"
-#include "product/VelProductRegistry.h"
-#include "product/VelProductRegistryExpressFees.h"
+#include "product/VelProductRegistryProductChecker.h"
+#include "product/VelProductSet.h"
 #include "product/VelProductSorting.h"
-#include "support/VelTestAccount.h"
+#include "support/VelTestPriceList.h"
+
+#include <QtAlgorithms>
 
 namespace {
 
-const VelTarmPriceKey MAIL(VelOrderSource::onlineMailOrder(), -1, DISCOUNT_MODEL_UNDEFINED);
-VelProductRegistry* registry()
+const char* const SHOP = R"(
+    article id='1' name='Print' group='23' arrangement='trivial' | | | [PRINT] TYPE=FOTO
+    article id='2' name='Print' group='24' arrangement='trivial' | | | [PRINT] BORDER=1
+    article id='5' arrangement='trivial' | | | [FRAME]
+    article id='40' name='Mug' arrangement='gift' | | | [G] TYPE=CAL6
+    article id='41' name='20x30' group='13' arrangement='gift' | | | [G] TYPE=20x30AG
+    article id='42' name='Canvas' arrangement='gift' | | | [G] TYPE=ALB11
+    article id='8026' arrangement='calendar' | | | [C] TYPE=CAL6
+    article id='9141' arrangement='photobook' | | | [B] TYPE=ALB11
+    article id='9181' arrangement='photobook' | | | [B] TYPE=ALB8
+    article id='9210' arrangement='photobook' | | | [B] TYPE=ALB8
+    article id='9171' arrangement='photobook' | | | [B] TYPE=alb9
+    article id='31' name='10x15' group='13' arrangement='trivial' | | | ALB9
+    article id='32' name='9x13' group='13' arrangement='trivial' | | | ALBUM
+    add_on id='60' name='60' product_class='WH2' group='13' | | | | 1
+    add_on id='61' name='61' product_class='WH2' | | | | 1
+    add_on id='62' name='62' product_class='VDO1' | | | | 9171
+    add_on id='63' name='63' product_class='X' | | | [FRAME] | 2
+    add_on id='64' name='64' product_class='X' | | | [FRAME] | 1
+    add_on id='65' name='65' product_class='X' | | | [PAGES] | 2
+    add_on id='66' name='66' product_class='X' | | | [PAGES] | 9171)";
+
+/// The first load has two elements more under another tag, and one that the second drops.
+const char* const FIRST_TAGS = R"(
+    article id='90' name='90' arrangement='trivial' group='9'
+    add_on id='91' product_class='K' | | | | 1
+    article id='92' name='Alt' arrangement='trivial' | | | [OLD] TYPE=OLD)";
+const char* const SECOND_TAGS = R"(
+    add_on id='90' group='9'
+    article id='91' name='Gift' arrangement='gift' group='8')";
+
+QString shown(bool theAnswer)
 {
-    return VelProductRegistry::instance();
+    return theAnswer ? "yes" : "no";
 }
 
-VelProductAbstract* product(int theArticleID)
+QString shown(const VelProductAbstract* theProduct)
 {
-    return registry()->productWithArticleID(theArticleID);
+    return theProduct ? QString::number(theProduct->articleID()) : "none";
 }
 
-QList<int> idsOf(const VelProductList& theProducts)
+QString shown(const QStringList& theTexts)
 {
-    QList<int> ids;
-    for (const VelProductAbstract* product : theProducts)
-        ids.append(product->articleID());
-    return ids;
+    return theTexts.join(' ');
+}
+
+template <typename Product>
+QString shown(const QList<Product*>& theProducts)
+{
+    QStringList ids;
+    for (const Product* product : theProducts)
+        ids.append(shown(product));
+    return shown(ids);
+}
+
+using Query = QString (*)(const VelProductRegistry&);
+
+#define ASK(...) [](const VelProductRegistry& theRegistry) { return shown(theRegistry.__VA_ARGS__); }
+#define NEAREST_TO(ID, GROUP) ASK(mostEquivalentProduct(theRegistry.productWithArticleID(ID), GROUP))
+
+void row(const char* theName, Query theQuery, const char* theExpected)
+{
+    QTest::newRow(theName) << theQuery << QString(theExpected);
 }
 
 } // namespace
 
-/// The registry lives as long as the program: each test uses article ids of its own.
+Q_DECLARE_METATYPE(Query)
+
+/// Each test has a registry of its own beside the application's.
 class TestProductRegistry : public QObject
 {
     Q_OBJECT
 
 private slots:
-    /// The first load takes the key account's document.
-    void initTestCase()
+    void init()
     {
-        VelKeyAccount::instance()->setPricelistXMLFileInfo(
-            document("<p><articles><article id='1' arrangement='trivial'/></articles></p>"));
-        QCOMPARE(idsOf(registry()->productList()), QList<int>{1});
+        loadPriceList(myAccount, "nothing");
+        myRegistry.reset(new VelProductRegistry);
     }
 
-    void init() { myCount = registry()->productList().size(); }
+    /// Of the application's registry: the first test, for it wants it empty.
+    void activeGroups()
+    {
+        const VelProductGroupManager* groups = VelProductGroupManager::instance();
+        loadPriceList(myAccount, "article id='1' arrangement='trivial'");
+        loadPriceList(myAccount, "article id='2' arrangement='trivial' group='24'");
+        QCOMPARE(groups->activeProductGroups().size(), 2); // deprecated products count
+        loadPriceList(myAccount, "add_on product_class='x'");
+        QCOMPARE(groups->activeProductGroups().size(), 9); // one add-on makes all of them active
+    }
 
     void sections()
     {
-        load(R"(<add_ons><add_on id='103' product_class='x'/><other/><add_on id='101' product_class='x'/></add_ons>
-            <articles><article id='102' arrangement='trivial'/>
-            <deep><article id='105' arrangement='trivial'/></deep><article id='100' arrangement='trivial'/></articles>
-            <articles><article id='106' arrangement='trivial'/></articles>
-            <add_ons><add_on id='107' product_class='x'/></add_ons>)");
-        QCOMPARE(newIds(), (QList<int>{102, 100, 103, 101}));
-        const QList<VelProductAbstract*> before = registry()->productList();
-        QSignalSpy updated(registry(), &VelProductRegistry::priceListUpdated);
-        myAccount.activate(); // reads the same document once more
-        QCOMPARE(updated.count(), 1);
-        QCOMPARE(registry()->productList(), before);
-        QVERIFY(!product(100)->isDeprecated() && !product(101)->isDeprecated() && product(1)->isDeprecated());
-    }
-
-    void droppedAndRevived()
-    {
-        load("<articles><article id='120' name='n' group='4' arrangement='trivial'/></articles>");
-        const VelProductAbstract* dropped = product(120);
-        load("<add_ons/>");
-        QVERIFY(dropped->isDeprecated());
-        QCOMPARE(dropped->shippingGroupId(), 4);
-        load("<articles><article id='120' arrangement='gift'><base_prices><p price='7'/></base_prices></article>"
-             "</articles>");
-        QCOMPARE(newIds(), QList<int>{120});
-        QCOMPARE(product(120), dropped);
-        QVERIFY(!dropped->isDeprecated());
-        QCOMPARE(dropped->name(), "n");
-        QCOMPARE(dropped->shippingGroupId(), -1);
-        QVERIFY(dropped->isProductGroup(PRODUCT_GROUP_GIFT));
-        QVERIFY(dropped->isProductClass(PRODUCT_CLASS_PRODUCT)); // the kind stays that of the first reading
-        QCOMPARE(dropped->price(MAIL, 2, 0), 14);
+        QSignalSpy updated(myRegistry.data(), &VelProductRegistry::priceListUpdated);
+        read(R"(<add_ons><add_on id='3' product_class='x'/><other/><add_on id='1' product_class='x'/></add_ons>
+            <articles><article id='4' arrangement='trivial'/>
+            <deep><article id='5' arrangement='trivial'/></deep><article id='2' arrangement='trivial'/></articles>
+            <articles><article id='6' arrangement='trivial'/></articles>)");
+        QCOMPARE(shown(myRegistry->productList()), "4 2 3 1");
+        const MessageCatcher messages;
+        myRegistry->loadAllProducts(QFileInfo("/nonexistent"));
+        QCOMPARE(updated.count(), 2);
+        QCOMPARE(shown(myRegistry->productList()), "4 2 3 1");
+        QVERIFY(found(4)->isDeprecated() && found(1)->isDeprecated());
     }
 
     /// The first element makes the object, the last one read tells its data; the section plays no part.
-    void idClashes()
+    void clashesOfIds()
     {
-        const MessageCatcher messages;
-        load(R"(<articles><article id='140' name='first' arrangement='trivial'/><article id='140' name='second'/>
-            <add_on id='141' product_class='x'/><transfer id='142' group='77'/>
-            <article id='143' arrangement='trivial'/><bundle id='143' name='other tag'/></articles>
-            <add_ons><add_on id='140'/><article id='144' arrangement='trivial'/><article id='141'/></add_ons>)");
-        QCOMPARE(newIds(), (QList<int>{140, 141, 142, 143, 144}));
-        QVERIFY(dynamic_cast<VelProduct*>(product(140)) && product(140)->isAddOn());
-        QCOMPARE(product(140)->name(), "second");
-        QVERIFY(product(140)->isProductGroup(PRODUCT_GROUP_ADD_ON));
-        QVERIFY(dynamic_cast<VelProductAddOn*>(product(141)) && !product(141)->isAddOn());
-        QVERIFY(product(142)->isProductClass(PRODUCT_CLASS_FEE) && !registry()->transferProduct(77));
-        QCOMPARE(product(143)->name(), "other tag");
-        QVERIFY(dynamic_cast<VelProduct*>(product(144)) && !product(144)->isAddOn());
-        QCOMPARE(messages.texts(), QStringList());
+        read(R"(<articles><article id='1' name='first' arrangement='trivial'/><article id='1' name='second'/>
+            <add_on id='2' product_class='x'/><transfer id='3' group='77'/>
+            <article id='4' arrangement='trivial'/><bundle id='4' name='other tag'/>
+            <article id='0' arrangement='trivial'/><article id='4294967296'/><article name='last'/></articles>
+            <add_ons><add_on id='1'/><article id='5' arrangement='trivial'/><article id='2'/></add_ons>)");
+        QCOMPARE(shown(myRegistry->productList()), "1 2 3 4 0 5");
+        QVERIFY(dynamic_cast<VelProduct*>(found(1)) && found(1)->isAddOn());
+        QVERIFY(dynamic_cast<VelProductAddOn*>(found(2)) && !found(2)->isAddOn());
+        QVERIFY(found(3)->isProductClass(PRODUCT_CLASS_FEE) && !myRegistry->transferProduct(77));
+        QCOMPARE(found(1)->name() + "/" + found(4)->name() + "/" + found(0)->name(), "second/other tag/last");
     }
 
-    void elementsWithoutId()
-    {
-        load(R"(<articles><article arrangement='trivial'/><article id='1.5'/><article id='4294967296'/>
-            <article id='' name='last'/><article id='-3' arrangement='trivial'/>
-            <article id=' 150 ' arrangement='trivial'/></articles>)");
-        QCOMPARE(newIds(), (QList<int>{0, -3, 150}));
-        QCOMPARE(product(0)->name(), "last");
-    }
-
+    /// Only being new keeps an element out: a known product takes it as an update.
     void refusedProducts()
     {
-        const char* const refused = R"(<articles><article id='161' arrangement='card'/>
-            <article id='160' arrangement='gift'><order_txt_lines><l>TYPE=WALL</l></order_txt_lines></article></articles>
-            <add_ons><add_on id='162' product_class='11'/><add_on id='163'/></add_ons>)";
+        const char* const refused =
+            "article id='1' arrangement='gift' | | | [G] TYPE=WALL\nadd_on id='3' product_class='11'";
         const MessageCatcher messages;
         load(refused);
+        QVERIFY(myRegistry->productList().isEmpty());
+        load("article id='1' arrangement='trivial'");
         load(refused);
-        QCOMPARE(newIds(), QList<int>());
-        // Only being new keeps an element out: a known product takes it as an update.
-        load("<articles><article id='160' arrangement='trivial'/></articles>");
-        load(refused);
-        QVERIFY(!product(160)->isDeprecated());
+        QVERIFY(!found(1)->isDeprecated() && found(1)->isProductGroup(PRODUCT_GROUP_GIFT));
         QCOMPARE(messages.texts(), QStringList());
-        load("<articles><article id='164'/></articles>");
-        QCOMPARE(messages.texts().size(), 1);
-    }
-
-    void fees()
-    {
-        load(R"(<paymethod_fees>
-            <paymethod_fee id='170' pay_method_id='3'/><paymethod_fee id='171' pay_method_id='x'/>
-            <paymethod_fee id='172' pay_method_id='99'/><paymethod_fee id='173' pay_method_id='3'/>
-            <transfer id='174' pay_method_id='8'/></paymethod_fees><transfers>
-            <transfer id='175' group='2'/><transfer id='177'/><transfer id='175' group='1' name='other'/>
-            <transfer id='176' group='2' name='later'/><article id='178' group='8' arrangement='trivial'/></transfers>)");
-        const auto agioId = [](int theType) {
-            return registry()->idOfPaymentAgioProduct(static_cast<VelPaymentType>(theType));
-        };
-        // The last one wins; no number counts as 0; an unknown number; of another tag.
-        QCOMPARE((QList<int>{agioId(3), agioId(0), agioId(99), agioId(8)}), (QList<int>{173, 171, 172, 0}));
-        QVERIFY(!registry()->paymentAgioProduct(PAYMENT_TYPE_8));
-        QCOMPARE(registry()->idOfTransferProduct(2), 176);
-        QCOMPARE(registry()->idOfTransferProduct(-1), 177); // no group
-        QCOMPARE(registry()->idOfTransferProduct(8), -1);   // none
-        QVERIFY(!registry()->transferProduct(8));
-        QCOMPARE(registry()->transferProductWithArticleId(175)->name(), "other");
-        QVERIFY(!registry()->transferProductWithArticleId(178));
-        QCOMPARE(newIds(), QList<int>()); // fees are no products of the list
-        QVERIFY(registry()->transferProduct(2)->isProductClass(PRODUCT_CLASS_FEE));
-    }
-
-    void feesOfAnEarlierLoad()
-    {
-        const char* const sections = R"(
-            <paymethod_fees><paymethod_fee pay_method_id='3'><base_prices><p price='95'/></base_prices></paymethod_fee>
-            </paymethod_fees><transfers><transfer group='1' model='2' name='t'><base_prices><p/></base_prices></transfer></transfers>
-            <express_fees><express_fee group='1' express='1'><base_prices><p price='490'/></base_prices></express_fee>
-            </express_fees>)";
-        const auto fees = [] {
-            return VelProductList{registry()->paymentAgioProduct(PAYMENT_TYPE_3), registry()->transferProduct(1),
-                                  registry()->expressAgioProduct(1, ExpressableType_EXPRESS_1)};
-        };
-        load(sections);
-        const VelProductList first = fees();
-        load(sections);
-        for (int index = 0; index < 3; ++index)
-            QVERIFY(fees()[index] && fees()[index] != first[index]);
-        load("");
-        QCOMPARE(fees(), (VelProductList{nullptr, nullptr, nullptr}));
-        QVERIFY(!registry()->containsExpressAgioProducts());
-        QCOMPARE(first[0]->price(MAIL, 1, 0), 95);
-        QCOMPARE(int(first[1]->transferModel()), 2);
-        QCOMPARE(first[1]->name(), "t");            // not deprecated
-        QCOMPARE(first[2]->price(MAIL, 3, 0), 490); // one fee for all
-    }
-
-    void expressFees()
-    {
-        load(R"(<express_fees>
-            <express_fee id='190' group='4' express='2'><base_prices><p price='990'/></base_prices></express_fee>
-            <express_fee id='191' group='4' express='1'><base_prices><p price='1'/></base_prices></express_fee>
-            <express_fee id='192' group='4' express='0'><base_prices><p price='0'/></base_prices></express_fee>
-            <express_fee id='193' group='4'/><express_fee id='194' express='1,2'/>
-            <express_fee id='195' group='5' express='1'><base_prices><p price='9'/></base_prices></express_fee>
-            <express_fee id='196' group='5' express='1'/></express_fees>)");
-        QCOMPARE(idsOf(registry()->expressAgioProducts(4)), (QList<int>{193, 192, 191, 190})); // by rising type
-        QCOMPARE(registry()->expressAgioProduct(-1, ExpressableType_EXPRESS_2)->articleID(), 194);
-        QCOMPARE(idsOf(registry()->expressAgioProducts(5)), QList<int>{196}); // the last one wins
-        QVERIFY(registry()->expressAgioProducts(6).isEmpty());
-        QVERIFY(!registry()->expressAgioProduct(5, ExpressableType_STANDARD));
-        QVERIFY(registry()->containsExpressAgioProducts());
-        // Only a fee above 0 makes a type available.
-        QCOMPARE(registry()->supportedExpressTypes(4, MAIL),
-                 (QList<VelExpressType>{ExpressableType_EXPRESS_1, ExpressableType_EXPRESS_2}));
-        QVERIFY(registry()->supportedExpressTypes(5, MAIL).isEmpty());
-        QVERIFY(registry()->supportedExpressTypes(6, MAIL).isEmpty());
-
-        VelProductRegistryExpressFees empty;
-        QVERIFY(empty.expressAgioProducts(4).isEmpty() && !empty.expressTypeMap(4));
-        QVERIFY(empty.safeExpressTypeMap(4) && empty.safeExpressTypeMap(4) == empty.expressTypeMap(4));
-        QVERIFY(!empty.containsExpressAgioProducts()); // a map alone is no fee
     }
 
     /// A new product reads its element twice.
@@ -208,84 +154,123 @@ private slots:
     {
         const MessageCatcher messages;
         for (int reading = 0; reading < 2; ++reading)
-            load("<articles><article id='200' arrangement='trivial'><shipping_times>"
-                 "<shipping_time days='3'/></shipping_times></article></articles>");
+            read("<articles><article id='1' arrangement='trivial'><shipping_times><shipping_time days='3'/>"
+                 "</shipping_times></article></articles>");
         QCOMPARE(messages.texts().size(), 3);
     }
 
-    void unreadable_data()
+    void paymentAndTransferFees()
     {
-        readTable(R"(
-            row                 | content                                   | warnings
-            empty file          |                                           | 1
-            no XML              | article;price                             | 1
-            cut off             | <p><articles><article id='210' arrangement='trivial'/> | 1
-            no sections         | <p/>                                      | 0
-        )");
+        read(R"(<paymethod_fees>
+            <paymethod_fee id='70' pay_method_id='3'/><paymethod_fee id='71' pay_method_id='x'/>
+            <paymethod_fee id='72' pay_method_id='99'/><paymethod_fee id='73' pay_method_id='3'/>
+            <transfer id='74' pay_method_id='8'/></paymethod_fees><transfers>
+            <transfer id='75' group='2'/><transfer id='77'/><transfer id='75' group='1' name='other'/>
+            <transfer id='76' group='2'/><article id='78' group='8' arrangement='trivial'/></transfers>)");
+        const auto agio = [this](int theType) {
+            return myRegistry->idOfPaymentAgioProduct(static_cast<VelPaymentType>(theType));
+        };
+        // The last one wins; no number counts as 0; an unknown number; of another tag.
+        QCOMPARE((QList<int>{agio(3), agio(0), agio(99), agio(8)}), (QList<int>{73, 71, 72, 0}));
+        // The last one wins; no group; of another tag.
+        QCOMPARE((QList<int>{myRegistry->idOfTransferProduct(2), myRegistry->idOfTransferProduct(-1),
+                             myRegistry->idOfTransferProduct(8)}),
+                 (QList<int>{76, 77, -1}));
+        QCOMPARE(myRegistry->transferProductWithArticleId(75)->name(), "other");
+        const VelProductList former{myRegistry->paymentAgioProduct(PAYMENT_TYPE_3), myRegistry->transferProduct(2)};
+        read("");
+        QVERIFY(!myRegistry->paymentAgioProduct(PAYMENT_TYPE_3) && !myRegistry->transferProduct(2));
+        QCOMPARE(shown(former), "73 76"); // still usable
     }
 
-    void unreadable()
+    void expressFees()
     {
-        load("<articles><article id='210' arrangement='trivial'/></articles><transfers><transfer/></transfers>");
-        QVERIFY(!product(210)->isDeprecated());
-        const QList<VelProductAbstract*> before = registry()->productList();
-        QSignalSpy updated(registry(), &VelProductRegistry::priceListUpdated);
-        const MessageCatcher messages;
-        registry()->loadAllProducts(document(cell("content").toUtf8()));
-        QCOMPARE(messages.texts().size(), number("warnings"));
-        QCOMPARE(updated.count(), 1);
-        QCOMPARE(registry()->productList(), before);
-        QVERIFY(std::all_of(before.begin(), before.end(), [](auto* theProduct) { return theProduct->isDeprecated(); }));
-        QVERIFY(!registry()->transferProduct(-1));
+        load(R"(
+            express_fee id='90' group='4' express='2' | 0=990
+            express_fee id='91' group='4' express='1' | 0=1
+            express_fee id='92' group='4' express='0' | 0=0
+            express_fee id='93' group='4'
+            express_fee id='94' express='1,2'
+            express_fee id='96' group='5' express='1')");
+        const VelProductAbstract* former = myRegistry->expressAgioProduct(4, ExpressableType_EXPRESS_1);
+        QCOMPARE(shown(myRegistry->expressAgioProducts(4)), "93 92 91 90"); // by rising type
+        QCOMPARE(shown(myRegistry->expressAgioProduct(-1, ExpressableType_EXPRESS_2)), "94");
+        // Only a fee above 0 makes a type available.
+        QCOMPARE(myRegistry->supportedExpressTypes(4, ANY),
+                 (QList<VelExpressType>{ExpressableType_EXPRESS_1, ExpressableType_EXPRESS_2}));
+        QVERIFY(myRegistry->supportedExpressTypes(5, ANY).isEmpty() && myRegistry->containsExpressAgioProducts());
+        load("nothing");
+        QVERIFY(myRegistry->expressAgioProducts(4).isEmpty() && !myRegistry->containsExpressAgioProducts());
+        QCOMPARE(former->price(ANY, 1, 0), 1); // still usable
     }
 
-    void absurdNumbers()
+    void lookups_data()
     {
-        load("<articles><article id='-2147483648' group='2147483647' arrangement='trivial'>"
-             "<size width='2147483647' height='2147483647' dpi='-2147483648'/><base_prices>"
-             "<p price='2147483647' quantity='-2147483648'/><p type='P' level='2147483647' quantity='1' price='9'/>"
-             "<p type='p' level='-2147483648' quantity='-2147483648' price='-2147483648'/></base_prices></article>"
-             "</articles>");
-        const VelProductAbstract* absurd = product(std::numeric_limits<int>::min());
-        QCOMPARE(absurd->shippingGroupId(), 2147483647);
-        QCOMPARE(absurd->countPrintPixels(), 0); // of two times -2^31
-        QCOMPARE(absurd->price(MAIL, 3, 0), 9);  // a package, whatever the count
-        QCOMPARE(absurd->price(MAIL, -2, 0), 2); // -2 times 2^31 - 1 wraps around
-        QCOMPARE(absurd->minPrice(true), 9);
+        QTest::addColumn<Query>("query");
+        QTest::addColumn<QString>("expected");
+        row("name: first of several", ASK(findProduct("Print", PRODUCT_GROUP_ALL)), "1");
+        row("name: by group", ASK(findProduct("Print", PRODUCT_GROUP_PROFESSIONALFOTO)), "2");
+        row("name: exact", ASK(findProduct("PRINT", PRODUCT_GROUP_ALL)), "none");
+        row("name: deprecated", ASK(findProduct("Alt (nicht mehr lieferbar)", PRODUCT_GROUP_ALL)), "92");
+        row("type: two books", ASK(findProduct(VelProductType("ALB8"))), "none");
+        row("type: one book, any case", ASK(findProduct(VelProductType("Alb9"))), "9171");
+        row("type: calendar, after a gift", ASK(findProduct(VelProductType("cal6"))), "8026");
+        row("type: gift, by its text", ASK(findProduct(VelProductType("20x30AG"))), "41");
+        row("type: gift, not exact", ASK(findProduct(VelProductType("20X30AG"))), "none");
+        row("TYPE: empty", ASK(findProductWithOrderTXTType("")), "2");
+        row("head: empty", ASK(findProductWithOrderTXTHead("", PRODUCT_GROUP_ALL)), "none");
+        row("border: empty head", ASK(findProductWithOrderTXTHead("", PRODUCT_GROUP_ALL, "")), "none");
+        row("text: TYPE before type", ASK(product("ALB11")), "42");
+        row("text: type before head", ASK(product("ALB9")), "9171");
+        row("text: head", ASK(product("ALBUM")), "32");
+        row("exists: not by head", ASK(productExists("ALBUM")), "no");
+        row("add-on: last read as an article", ASK(supplement(1, "K")), "91");
+        row("add-ons: for the user", ASK(possibleSupplements(1)), "60 61");
+        row("frames", ASK(findPossibleFrames(1)), "64");
+        row("page package", ASK(findPagePackage(9171)), "66");
+        row("video of a book", ASK(qrCodeSupplement(VelProductType("ALB9"))), "62");
+        row("group: a mask", ASK(containsProductGroup(static_cast<VelProductGroupEnum>(768))), "no");
+        row("plain: class add-on as article", ASK(shippingGroupHasNonPrintFunProducts(8)), "yes");
+        row("plain: class photo as add-on", ASK(shippingGroupHasNonPrintFunProducts(9)), "no");
+        row("shipping group", ASK(productsForShippingGroup(13, false)), "32 31 41");
+        row("with add-ons", ASK(productsForShippingGroup(13, true)), "32 31 41 60 61 62 63 64 65 66 90");
+        row("of add-ons", ASK(productsForProductGroup(PRODUCT_GROUP_ADD_ON, false)), "60 61 62 63 64 65 66 90");
+        row("names", ASK(productListAsStringList(PRODUCT_GROUP_GIFT)), "Mug Gift 20x30 Canvas");
+        row("nearest: head and border", NEAREST_TO(2, PRODUCT_GROUP_ALL), "2");
+        row("nearest: head", NEAREST_TO(1, PRODUCT_GROUP_PROFESSIONALFOTO), "2");
     }
 
-    void productsOfType()
+    void lookups()
     {
-        load(R"(<articles>
-            <article id='9604' arrangement='photobook'><order_txt_lines><l>TYPE=ALB72</l></order_txt_lines></article>
-            <article id='220' arrangement='gift'><order_txt_lines><l>type=alb72</l></order_txt_lines></article>
-            <article id='221' arrangement='trivial'><order_txt_lines><l>TYPE=ALB72</l></order_txt_lines></article>
-            </articles>)");
-        VelProductList* list = registry()->productsOfType(QString("Alb72"));
-        QCOMPARE(idsOf(*list), (QList<int>{9604, 220})); // print-fun products only
-        load("<articles><article id='9604'><order_txt_lines><l>TYPE=ALB73</l></order_txt_lines></article></articles>");
-        QCOMPARE(registry()->productsOfType(PRODUCT_TYPE_ALB72), list); // it never changes by a later reading
-        QCOMPARE(idsOf(*list), (QList<int>{9604, 220}));
-        VelProductList* none = registry()->productsOfType(PRODUCT_TYPE_ALB73);
-        QVERIFY(none->isEmpty() && registry()->productsOfType(PRODUCT_TYPE_ALB73) == none);
+        load(QString(SHOP) + FIRST_TAGS);
+        load(QString(SHOP) + SECOND_TAGS);
+        QFETCH(Query, query);
+        QTEST(query(*myRegistry), "expected");
+    }
+
+    void nearestInSize()
+    {
+        const QString pattern = "<article arrangement='trivial' id='%1' name='%1' group='%2'>"
+                                "<size dpi='254' width='%3' height='10'/></article>";
+        read("<articles>" + pattern.arg(1).arg(4).arg(10) + pattern.arg(12).arg(24).arg(12) +
+             pattern.arg(8).arg(24).arg(8) + pattern.arg(7).arg(24).arg(20) +
+             "</articles><add_ons><add_on id='60' product_class='x'/></add_ons>");
+        // Of two as near the first by number; an add-on of no size.
+        QCOMPARE(shown(myRegistry->mostEquivalentProduct(found(1), PRODUCT_GROUP_PROFESSIONALFOTO)), "8");
+        QCOMPARE(shown(myRegistry->mostEquivalentProduct(found(1), PRODUCT_GROUP_BOOK)), "60");
     }
 
     void sorting_data()
     {
         readTable(R"(
-            row                                    | left          | right        | less
-            by number                              | 9x13 matt     | 10x15        | yes
-            equal numbers, by length               | 10x15         | 10x15 matt   | yes
-            equal numbers and lengths              | 10x15         | 10x20        | no
-            equal numbers written otherwise        | 9x            | 009          | yes
-            one without a digit, by length         | 9x13          | Poster       | yes
-            one without a digit, the longer number | Bild          | 10x15        | yes
-            minus is no digit                      | -9            | 1x           | yes
-            letters, caseless                      | abc           | ABD          | yes
-            same letters                           | abc           | ABC          | no
-            letters, by length                     | zz            | aaa          | yes
-            empty                                  |               | 0            | yes
-            too large a number counts 0            | 99999999999   | 1            | yes
+            row                                    | left        | right      | less
+            by number                              | 9x13 matt   | 10x15      | yes
+            equal numbers, by length               | 10x15       | 10x15 matt | yes
+            letters, caseless                      | abc         | ABD        | yes
+            same letters                           | abc         | ABC        | no
+            equal numbers and lengths              | 10x15       | 10x20      | no
+            one without a digit, the longer number | Bild        | 10x15      | yes
+            too large a number counts 0            | 99999999999 | 1          | yes
         )");
     }
 
@@ -295,19 +280,141 @@ private slots:
         QVERIFY(!sortByNumber(cell("right"), cell("left")));
     }
 
-private:
-    QFileInfo document(const QByteArray& theContent) const { return myAccount.write("pricelist.xml", theContent); }
-
-    void load(const QByteArray& theSections) const
+    /// The rules of sorting can form cycles: the lists are in the order that qSort makes of them.
+    void order()
     {
-        registry()->loadAllProducts(document("<any>" + theSections + "</any>"));
+        const QStringList patterns{"Nx", "Nx_matt", "PosterN", "poster", "BildN_", "N"};
+        QString lines;
+        for (int id = 0; id < 200; ++id) {
+            const int mixed = id * 7919 % 211;
+            const QString name = QString(patterns[mixed % 6]).replace("N", QString::number(mixed % 13));
+            lines += QString("article id='%1' name='%2' group='3' arrangement='trivial'\n").arg(id).arg(name);
+        }
+        load(lines);
+        VelProductList expected = myRegistry->productList();
+        qSort(expected.begin(), expected.end(), sortProductByNumber);
+        QCOMPARE(myRegistry->productsForShippingGroup(3, false), expected);
     }
 
-    /// The article ids that the registry took in since the test began.
-    QList<int> newIds() const { return idsOf(registry()->productList().mid(myCount)); }
+    void changedIds()
+    {
+        QVERIFY(!found(0) && !found(1));
+        load("article id='1' arrangement='trivial'\narticle id='2' arrangement='trivial'");
+        VelProductAbstract* first = found(1);
+        VelProductAbstract* second = found(2);
+        second->update(parsedElement("<article id='1'/>"));
+        QVERIFY(found(1) == first && !found(2)); // of two with one id the first in the list
+        first->update(parsedElement("<article/>"));
+        QVERIFY(found(0) == first && found(1) == second);
 
+        VelProductAbstract* late = new VelProduct(parsedElement("<article id='3'/>"));
+        QVERIFY(!found(3));
+        myRegistry->insertProduct(late);
+        QCOMPARE(found(3), late);
+        myRegistry->insertProduct(nullptr);
+        QCOMPARE(shown(myRegistry->productList()), "0 1 3");
+    }
+
+    /// What once was found for an order-text type stays so; the lists of product types keep their first readings, too.
+    void memories()
+    {
+        QVERIFY(!myRegistry->findProductWithOrderTXTType("ALB8")); // which isn't kept
+        const VelProductList* list = myRegistry->productsOfType(PRODUCT_TYPE_ALB8);
+        const QString lines = "article id='1' arrangement='gift' | | | [G] TYPE=%1\n"
+                              "article id='2' arrangement='card' | | | [G] TYPE=%2";
+        load(lines.arg("ALB8", "alb8"));
+        VelProductAbstract* former = myRegistry->findProductWithOrderTXTType("ALB8");
+        load(lines.arg("ALB9", "ALB8"));
+        QCOMPARE(shown(*list), "1 2");
+        QCOMPARE(myRegistry->findProductWithOrderTXTType("ALB8"), former);
+        QCOMPARE(shown(myRegistry->findProductListWithOrderTxtType("ALB8")), "2");
+    }
+
+    /// Products of one shipping group; * marks one of another, + an add-on of that.
+    void discountLimits_data()
+    {
+        readTable(R"(row              | prices               | limits
+                     and bands        | B0=9/B0=9 B1@11=8    | 1:0..10 1:11..-1
+                     another model    | B0=9/P1@5=45         | 1:0..-1 3:5..-1
+                     superseded alone | B0=9 P0=9/B1@11=8    | 1:11..-1 3:0..-1
+                     shipping group   | B0=9/*P1@5=45        | 1:0..-1
+                     any add-on       | P1@5=4/+P2@7=6/+I0=1 | 3:5..-1 3:7..-1 8:0..-1)");
+    }
+
+    void discountLimits()
+    {
+        for (const QString& text : cell("prices").split('/')) {
+            QDomElement element = priced(text, text.startsWith('+') ? "add_on" : "article");
+            element.setAttribute("group", text.startsWith('+') || text.startsWith('*') ? 5 : 4);
+            myRegistry->insertProduct(new VelProduct(element));
+        }
+        QStringList limits;
+        for (const VelDiscountLimit& limit : myRegistry->discountLimits(4, ANY))
+            limits.append(
+                QString::asprintf("%d:%d..%d", limit.discountModel(), limit.lowerLimit(), limit.upperLimit()));
+        limits.sort();
+        QCOMPARE(shown(limits), cell("limits"));
+        for (int model = 1; model <= 10; ++model)
+            QCOMPARE(myRegistry->containsDiscountModel(4, ANY, static_cast<VelDiscountModel>(model)),
+                     !limits.filter(QString("%1:").arg(model)).isEmpty());
+    }
+
+    void productSet()
+    {
+        const QString pattern = "<article id='%1' arrangement='trivial'><order_txt_lines><l>TYPE=%2</l><l>SCALE=%3</l>"
+                                "</order_txt_lines></article>";
+        VelProductRegistry::instance()->updateProducts(parsedElement(
+            "<p><articles>" + pattern.arg(300).arg("20x30AG", "a") + pattern.arg(301).arg("20x30AG", "B") +
+            pattern.arg(302).arg("30x45AG", "c") + "</articles></p>"));
+        const VelProductSet set(VelProductType("20x30AG"));
+        QCOMPARE(set.parameterValues(), (QStringList{"A", "B"})); // in upper case, and found as written
+        QVERIFY(set.product("B") == product(301) && set.product("a") == product(300) && !set.product("A"));
+        QVERIFY(set.hasVariants() && !VelProductSet(VelProductType("30x45AG")).hasVariants());
+        QVERIFY(!VelProductSet(VelProductType("20X30ag")).product("a")); // the type's text counts as it is written
+    }
+
+    void books_data()
+    {
+        readTable(R"(row                | ids       | type  | valid | pages
+                     page package       | 9221      | ALB13 | yes   | 24 96 2
+                     no package         | 9604      | ALB14 | yes   | 24 24 2
+                     two books          | 9231 9206 | ALB15 | no    | 0 0 0
+                     a calendar's type  | 9205      | CAL6  | no    | 0 0 0)");
+    }
+
+    void books()
+    {
+        QByteArray lines = "add_on id='311' product_class='x' | | | [PAGES] | 9221";
+        for (const QString& id : cell("ids").split(' '))
+            lines += "\narticle arrangement='photobook' min_pages='24' max_pages='96' page_step='2' id='" +
+                     id.toUtf8() + "' | | | [B] TYPE=" + cell("type").toUtf8();
+        loadPriceList(myAccount, lines);
+        const VelProductType type(cell("type"));
+        QCOMPARE(VelProductRegistryProductChecker().isValid(type), answer("valid"));
+        loadPriceList(myAccount, "nothing"); // the books are found, but not valid any more
+        QVERIFY(!VelProductRegistryProductChecker().isValid(type));
+        const auto pages = VelPageOrganizationCalculatorTarm().createPageOrganization(type);
+        QCOMPARE(QString::asprintf("%u %u %u", pages.lowest(), pages.highest(), pages.step()), cell("pages"));
+    }
+
+private:
+    void read(const QString& theSections) const
+    {
+        myRegistry->updateProducts(parsedElement("<any>" + theSections + "</any>"));
+    }
+
+    /// Lets the application's registry load, and the own one.
+    void load(const QString& theLines) const
+    {
+        loadPriceList(myAccount, theLines.toUtf8());
+        myRegistry->loadAllProducts();
+    }
+
+    VelProductAbstract* found(int theArticleID) const { return myRegistry->productWithArticleID(theArticleID); }
+
+    const VelTarmPriceKey ANY = priceKey(-1, DISCOUNT_MODEL_UNDEFINED);
     const TestAccount myAccount;
-    int myCount = 0;
+    QScopedPointer<VelProductRegistry> myRegistry;
 };
 
 VEL_TEST_MAIN(TestProductRegistry)

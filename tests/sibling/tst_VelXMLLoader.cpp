@@ -8,6 +8,14 @@ QByteArray nested(const char* theOpening, const char* theClosing, int theLevels)
     return QByteArray(theOpening).repeated(theLevels) + QByteArray(theClosing).repeated(theLevels);
 }
 
+QByteArray attributes(int theCount)
+{
+    QByteArray text;
+    for (int number = 0; number < theCount; ++number)
+        text += " a" + QByteArray::number(number) + "=''";
+    return text;
+}
+
 } // namespace
 
 class TestVelXMLLoader : public QObject
@@ -23,22 +31,20 @@ private slots:
             QTest::newRow(theName) << theBytes << QString::fromLatin1(theWarning);
         };
         row("empty", "", "line 1, column 1: .*end of file");
-        row("text", "not\nXML", "line 1, column 1: .*error");
         row("tag mismatch", "<a>\n <b></c>\n</a>", "line 2, column 8: .*mismatch");
-        row("two roots", "<a/><b/>", "line 1, column 6: .*unexpected");
-        row("nothing but zeros", QByteArray(100, '\0'), "line 1, column 1: .*error");
-        row("cut off within a character", "<a b=\"\xc3", "line 1, column 7: .*end of file");
-        row("cut off UTF-16", QByteArray("\xff\xfe<\0a\0/", 7), "line 1, column \\d+: .*end of file");
         row("one level too deep", nested("<a>", "</a>", 257), "line 1, column 771: .*nest deeper than 256 levels");
         // Parsing and destroying such trees recursively would overflow the stack.
         row("bottomless", nested("<a>", "</a>", 500000), "line 1, column 771: .*nest deeper");
-        row("bottomless and cut off", nested("<a>", "", 500000), "line 1, column 771: .*nest deeper");
         row("bottomless type", "<!DOCTYPE r [\n<!ELEMENT r " + nested("(", ")", 500000) + ">]><r/>",
             "line 2, column 1: .*must not be declared");
         // One long entity, referred to again and again: gigabytes from half a megabyte.
         row("entity bomb",
             "<!DOCTYPE r [ <!ENTITY a '" + nested("x", "", 100000) + "'>]><r>" + nested("&a;", "", 100000) + "</r>",
             "line 1, column 15: .*must not be declared");
+        // A hash of names that are made to collide takes longer with each of them.
+        row("notation", "<!DOCTYPE r [\n <!NOTATION n SYSTEM 'n'>]><r/>", "line 2, column 2: .*must not be declared");
+        row("one attribute too many", "<r>\n<a" + attributes(257) + "/></r>",
+            "line 2, column .*more than 256 attributes");
     }
 
     void refusedDocuments()
@@ -60,11 +66,10 @@ private slots:
         QTest::newRow("UTF-8, comments, blank texts, character data") << QByteArray(
             "<?xml version='1.0' encoding='UTF-8'?>\n<!-- <!ENTITY --><?go on?><r a='\xc3\xa4' b=''>\n  <c> x &amp; "
             "&#65; </c>\n  <![CDATA[<d>]]> <x:y xmlns:x='u' x:z='1'/> &unknown; </r>\n");
-        QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbf<r/>");
         QTest::newRow("Latin-1") << QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><r a='\xe4'/>");
         QTest::newRow("UTF-16") << QByteArray("\xff\xfe<\0r\0/\0>\0", 10);
-        QTest::newRow("zero within") << QByteArray("<r>a\0b</r>", 10);
         QTest::newRow("document type") << QByteArray("<!DOCTYPE r SYSTEM 'r.dtd'><r/>");
+        QTest::newRow("most attributes") << "<r><a" + attributes(256) + "/><a" + attributes(256) + "/></r>";
         QTest::newRow("deepest nesting") << nested("<a>", "</a>", 256);
         QTest::newRow("more elements than levels") << "<r>" + nested("<a><b/></a>", "", 300) + "</r>";
     }
@@ -74,32 +79,26 @@ private slots:
     {
         QFETCH(QByteArray, bytes);
         const auto printed = [](const QDomElement& theRoot) {
-            QString result = QStringLiteral("%1/%2 ").arg(theRoot.lineNumber()).arg(theRoot.columnNumber());
-            QTextStream stream(&result);
-            theRoot.save(stream, 0);
+            QString result;
+            QTextStream(&result) << theRoot.lineNumber() << '/' << theRoot.columnNumber() << ' ' << theRoot;
             return result;
         };
         QDomDocument plain;
         QVERIFY(plain.setContent(bytes));
         const QDomElement loaded = VelXMLLoader::loadDocumentElement(myFolder.write("document.xml", bytes));
-        QVERIFY(!loaded.isNull());
         QCOMPARE(printed(loaded), printed(plain.documentElement()));
     }
 
     void elementOutlivesItsDocument()
     {
-        QDomElement root = VelXMLLoader::loadDocumentElement(myFolder.write(
-            "document.xml", "<?xml version='1.0'?><!-- before --><r><c><d b='2'/></c><c/></r><!-- behind -->"));
-        QDomElement inner = root.firstChildElement().firstChildElement();
-        QCOMPARE(inner.parentNode().parentNode().toElement(), root);
+        QDomElement root = VelXMLLoader::loadDocumentElement(
+            myFolder.write("document.xml", "<!-- before --><r><c><d/></c></r><!-- behind -->"));
         // What stands around the root went with the document.
         QVERIFY(root.parentNode().isNull() && root.previousSibling().isNull() && root.nextSibling().isNull());
-        QCOMPARE(root.childNodes().size(), 2);
-        QCOMPARE(root.elementsByTagName("d").size(), 1);
-        inner.setAttribute("b", 3);
+        QDomElement inner = root.firstChildElement().firstChildElement();
         root = QDomElement();
-        QCOMPARE(inner.attribute("b"), "3");
-        QVERIFY(inner.parentNode().isNull());
+        inner.setAttribute("b", 3);
+        QVERIFY(inner.tagName() == "d" && inner.attribute("b") == "3" && inner.parentNode().isNull());
     }
 
 private:
