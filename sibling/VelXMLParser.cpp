@@ -5,8 +5,31 @@ namespace {
 const QString STR_WIDTH = QStringLiteral("width");
 const QString STR_HEIGHT = QStringLiteral("height");
 
+const int NOT_PLAIN = -1;
+const int MOST_PLAIN_DIGITS = 9; // of which any fits an int
+
+/// The number that a few digits make, NOT_PLAIN for any other text. Nearly all numbers of a document are plain, and
+/// QString::toInt takes many times as long, as it knows locales.
+int plainNumber(const QString& theText)
+{
+    if (theText.size() > MOST_PLAIN_DIGITS)
+        return NOT_PLAIN;
+    int number = 0;
+    for (const QChar character : theText) {
+        if (character < QLatin1Char('0') || character > QLatin1Char('9'))
+            return NOT_PLAIN;
+        number = number * 10 + (character.unicode() - '0');
+    }
+    return number;
+}
+
 int toInt(const QString& theText, int theDefault)
 {
+    if (theText.isEmpty())
+        return theDefault;
+    const int plain = plainNumber(theText);
+    if (plain != NOT_PLAIN)
+        return plain;
     bool isNumber = false;
     const int number = theText.toInt(&isNumber);
     return isNumber ? number : theDefault;
