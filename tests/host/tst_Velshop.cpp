@@ -128,6 +128,8 @@ private slots:
         const QJsonObject rest = price["lines"][1].toObject();
         QVERIFY(rest["amount"].toInt() == 180 && rest["from"].toInt() == 101 && !rest.contains("to"));
         QVERIFY(json("price 142 1")["amount"].isNull());
+        const QJsonDocument unit = json("unit 9210 --pages 40 --videos 1 --template 12=3");
+        QVERIFY(unit["unitPrice"].toInt() == 2012 && unit["parts"]["videos"]["price"].toInt() == 99);
         const QJsonDocument shop = json("shop");
         QVERIFY(shop["orderWays"].toArray().size() == 5 && shop["start"]["type"].toInt() == 3);
         const QJsonObject ofTwoBooks = json("types")[2].toObject();

@@ -226,8 +226,13 @@ private slots:
         row("exists: not by head", ASK(productExists("ALBUM")), "no");
         row("add-on: last read as an article", ASK(supplement(1, "K")), "91");
         row("add-ons: for the user", ASK(possibleSupplements(1)), "60 61");
+        row("add-on: by the type's one book", ASK(findContent(VelProductType("ALB9"), "VDO1")), "62");
+        row("add-ons: all that fit", ASK(possibleAddOns(1)), "60 61 64 91");
+        row("add-on: not of that kind", ASK(productHasSupplement(1, "VDO1")), "no");
         row("frames", ASK(findPossibleFrames(1)), "64");
         row("page package", ASK(findPagePackage(9171)), "66");
+        row("video: none for the type", ASK(qrCodeAllowed(VelProductType("ALB11"))), "no");
+        row("groups: a common bit", ASK(groupsMatch(PRODUCT_GROUP_FOTO, PRODUCT_GROUP_ALL)), "yes");
         row("video of a book", ASK(qrCodeSupplement(VelProductType("ALB9"))), "62");
         row("group: a mask", ASK(containsProductGroup(static_cast<VelProductGroupEnum>(768))), "no");
         row("plain: class add-on as article", ASK(shippingGroupHasNonPrintFunProducts(8)), "yes");
