@@ -394,8 +394,8 @@ VelTarmPriceInfo::Answer VelTarmPriceInfo::bestAnswer(const VelOrderSource& theS
     return best;
 }
 
-/// The highest level from 1 up whose lower limit the count reaches, null for none; from there down when a level is
-/// given. The highest level wins, whatever the limits below it; upper limits and gaps play no part.
+/// The highest level from 1 up whose lower limit the count reaches, null for none. The highest level wins, whatever the
+/// limits below it; upper limits and gaps play no part.
 const VelTarmPriceValue* VelTarmPriceInfo::reached(const Bands& theBands, int theCount, bool thePackagesOnly)
 {
     for (auto band = theBands.end(); band != theBands.begin();) {
