@@ -1,6 +1,6 @@
 #include "frame/VelChildElements.h"
-#include "frame/VelGuardedDocument.h"
 #include "fuzz/FuzzShop.h"
+#include "sibling/VelGuardedDocument.h"
 
 #include <QDomDocument>
 #include <QFile>

@@ -2,20 +2,19 @@
 
 #include "frame/EnumHelper.h"
 #include "frame/VelChildElements.h"
-#include "frame/VelGuardedDocument.h"
 #include "frame/VelGuardedInstance.h"
 #include "ordering/VelOrderingDetailItem.h"
 #include "ordering/VelTarmShippingGroup.h"
 #include "ordering/VelTarmShippingGroupManager.h"
 #include "product/VelProductRegistry.h"
 #include "sibling/VelDirectoryConfig.h"
+#include "sibling/VelGuardedDocument.h"
 #include "sibling/VelKeyAccount.h"
 #include "sibling/VelKeyAccountFileTimeStampManager.h"
 #include "sibling/VelXMLLoader.h"
 #include "sibling/VelXMLParser.h"
 
-#include <QDomDocument>
-#include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cmath>
@@ -44,7 +43,6 @@ const QString STR_NAME = QStringLiteral("name");
 const QString STR_ICON = QStringLiteral("icon");
 const QString STR_ID = QStringLiteral("id");
 const QString STR_ICON_FILE = QStringLiteral("icons/payment/filenames.xml");
-const QString STR_PAYMENT = QStringLiteral("payment");
 const QString STR_DEFAULT_CURRENCY = QStringLiteral("EUR");
 
 const int ID_CREDIT_CARDS = 1;
@@ -89,18 +87,11 @@ void VelOrderingDetails::initPaymentTypes()
 
 bool VelOrderingDetails::initIconNames(const QString& theFileName)
 {
-    if (theFileName.isEmpty())
-        return false;
-    QFile file(theFileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray bytes = file.readAll();
-    file.close();
-    QDomDocument document(STR_PAYMENT);
     VelGuardedDocument::Refusal refusal; // not told: a missing or broken icon file goes without a message
-    if (!VelGuardedDocument::setContent(document, bytes, refusal))
+    const QDomElement root = VelGuardedDocument::load(QFileInfo(theFileName), refusal);
+    if (root.isNull())
         return false;
-    for (const QDomElement& method : VelChildElements(document.documentElement(), STR_METHOD))
+    for (const QDomElement& method : VelChildElements(root, STR_METHOD))
         myIconNames[VelXMLParser::attribute(method, STR_NAME, QString())] =
             VelXMLParser::attribute(method, STR_ICON, QString());
     return true;

@@ -1,5 +1,6 @@
-#include "frame/VelGuardedDocument.h"
+#include "sibling/VelGuardedDocument.h"
 
+#include <QFile>
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
@@ -116,7 +117,37 @@ VelGuardedDocument::Refusal refusalOfDeclaration(const QString& theText, int the
             static_cast<int>(before.count(QLatin1Char('\n'))) + 1, theIndex - before.lastIndexOf(QLatin1Char('\n'))};
 }
 
+/// Takes the tree out of a document that is about to go. What goes with its document keeps pointers to the nodes that
+/// stood before and behind the root; moved through a document that stays, the root has no neighbours.
+QDomElement detached(const QDomElement& theRoot)
+{
+    static QDomDocument* const ourHome = new QDomDocument(QStringLiteral("home"));
+    ourHome->appendChild(theRoot);
+    return ourHome->removeChild(theRoot).toElement();
+}
+
+/// The document element of the bytes, or null and the reason.
+QDomElement parsed(const QByteArray& theBytes, VelGuardedDocument::Refusal& theRefusal)
+{
+    QDomDocument document;
+    if (!VelGuardedDocument::setContent(document, theBytes, theRefusal))
+        return QDomElement();
+    return detached(document.documentElement());
+}
+
 } // namespace
+
+QDomElement VelGuardedDocument::load(const QFileInfo& theFile, Refusal& theRefusal)
+{
+    QFile file(theFile.filePath());
+    if (theFile.filePath().isEmpty())
+        theRefusal.myReason = QStringLiteral("there is no file name"); // Qt would add a warning of its own
+    else if (file.open(QIODevice::ReadOnly))
+        return parsed(file.readAll(), theRefusal);
+    else
+        theRefusal.myReason = file.errorString();
+    return QDomElement();
+}
 
 bool VelGuardedDocument::setContent(QDomDocument& theDocument, const QByteArray& theBytes, Refusal& theRefusal)
 {
