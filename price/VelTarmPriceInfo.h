@@ -1,43 +1,33 @@
 #ifndef VELTARMPRICEINFO_H
 #define VELTARMPRICEINFO_H
 
-#include "bill/VelTarmBillLine.h"
 #include "price/VelTarmPriceKey.h"
-#include "price/VelTarmPriceValue.h"
-#include "price/VelTarmStoredPrice.h"
+#include "price/VelTarmPriceStore.h"
 
 #include <QList>
 #include <QSet>
-
-#include <array>
-#include <cstddef>
-#include <vector>
 
 class VelOrderStatistic;
 class VelProductAbstract;
 class VelTarmBill;
 class VelTarmBillPositionList;
+struct VelTarmBillLine;
+struct VelTarmPriceAnswer;
+struct VelTarmPriceCharge;
 
 /**
  * All prices of one article, and what a quantity costs. All amounts are whole cents; -1 means that there is no price
  * and 0 is a real price. Amounts and counts are multiplied and added unchecked and wrap around.
  *
- * The store: each price entry of the document stands under every order source that it spans, with its own copy of the
- * value, at its level and model. No part of a store key is wild. The copies stand sorted by order source, model and
- * level in one block, so that a rule finds the bands of a model side by side.
- *
- * The rules: the model is chosen among those that have entries, then the level within the model, then the model's own
- * rule gives the amount. A null VelTarmBillPositionList asks for the amount only; otherwise positions made on the heap
- * are appended to it, which its owner releases.
+ * It holds the VelTarmPriceStore, asks the VelPriceRules, and makes lines of a bill of what they charge. A null
+ * VelTarmBillPositionList asks for the amount only; otherwise positions made on the heap are appended to it, which its
+ * owner releases.
  */
 class VelTarmPriceInfo
 {
     Q_DISABLE_COPY(VelTarmPriceInfo)
 
 public:
-    /// The order sources that prices can stand under.
-    static constexpr std::size_t SHELVES = 9;
-
     /// Reads the prices of an article's element. The product is borrowed.
     VelTarmPriceInfo(VelProductAbstract* theProduct, const QDomElement& theArticle);
 
@@ -58,11 +48,14 @@ public:
     VelTransferModel transferModel(const QDomElement& theEntry) const;
 
     /// That of the entry last read; TRANSFER_MODEL_UNDEFINED when none was.
-    VelTransferModel transferModel() const { return myTransferModel; }
+    VelTransferModel transferModel() const { return myStore.transferModel(); }
     VelProductAbstract* product() const { return myProduct; }
 
     /// The highest level in the document, 0 for none.
-    int maxDiscountLevel() const { return myMaxDiscountLevel; }
+    int maxDiscountLevel() const { return myStore.maxDiscountLevel(); }
+
+    /// What the rules are asked with, for VelTarmPriceView.
+    const VelTarmPriceStore& store() const { return myStore; }
 
     /// What an entry's source stands for: ANY for net and CD, each of the three for itself, all else for nothing.
     QList<VelInputSource> inputSources(const VelInputSource& theInputSource) const;
@@ -137,80 +130,13 @@ public:
     void prefetch(const VelOrderSource& theSource) const;
 
 private:
-    using Prices = std::vector<VelTarmStoredPrice>;
-
-    /// Neighbours in the store, in its order.
-    struct Bands
-    {
-        const VelTarmStoredPrice* myBegin;
-        const VelTarmStoredPrice* myEnd;
-        const VelTarmStoredPrice* begin() const { return myBegin; }
-        const VelTarmStoredPrice* end() const { return myEnd; }
-    };
-
-    /// What an order pays for shipping under TRANSFER_MODEL_2, in cents.
-    struct TransferCharges
-    {
-        int myBase;
-        int myUnits;
-    };
-
-    /// A line that a rule asks for, while nobody has said yet whether it goes to a bill.
-    struct Charge
-    {
-        const VelTarmPriceValue* myValue;
-        VelDiscountModel myModel;
-        int myLevel;
-        int myCountItems;
-        int myUnitCount;
-        int myItemsPerUnit;
-    };
-
-    /// What the rule of a model answers; a package with a rest makes two charges. An invalid one has no rule at all.
-    struct Answer
-    {
-        VelDiscountModel myModel;
-        int myPrice; ///< cents, -1 for no price
-        bool myIsInvalid;
-        int myChargeCount;
-        Charge myCharges[2];
-    };
-
-    /// All prices of an order source, and the levels from 0 up of one of its models.
-    Bands shelf(const VelOrderSource& theSource) const;
-    Bands bands(const VelOrderSource& theSource, VelDiscountModel theModel) const;
-    VelTarmPriceValue* find(const VelTarmPricePlace& thePlace) const;
-    VelTarmPriceValue& valueOrInvalid(const VelTarmPricePlace& thePlace) const;
-    VelTarmPriceValue& baseValue(const VelTarmPriceKey& theKey) const;
-    int itemsAtUpperBound(const VelTarmPricePlace& thePlace) const;
-    void readGroup(const QDomElement& theGroup);
-    void readEntry(const QDomElement& theEntry);
-    void settle();
-
-    static const VelTarmPriceValue* reached(const Bands& theBands, int theCount, bool thePackagesOnly);
-    static const VelTarmPriceValue& valueAtLevelZero(const Bands& theBands);
-    static Answer noAnswer();
-    static Answer answerOf(VelDiscountModel theModel, int thePrice);
-    static Answer answerOf(VelDiscountModel theModel, int thePrice, const Charge& theCharge);
-    static TransferCharges transferCharges(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic);
     int inheritedLevel(const VelTarmBill* theBill) const;
-    Answer bestAnswer(const VelOrderSource& theSource, int theCount, int theBillingSum, int theInheritedLevel) const;
-    Answer answer(const VelTarmPricePlace& thePlace, int theCount, int theBillingSum) const;
-    Answer bulk(const VelOrderSource& theSource, int theCount) const;
-    Answer package(const VelOrderSource& theSource, VelDiscountModel theModel, int theCount) const;
-    Answer inheritedDiscount(const VelTarmPricePlace& thePlace, int theCount) const;
-    Answer oneFee(const VelOrderSource& theSource, VelDiscountModel theModel, int theCount) const;
-    Answer billingSumTransfer(const VelOrderSource& theSource, int theBillingSum) const;
-    VelTarmBillLine line(const Charge& theCharge) const;
-    int chargeTo(VelTarmBill* theBill, const Answer& theAnswer) const;
-    int chargeTo(VelTarmBillPositionList* thePositions, const Answer& theAnswer) const;
+    VelTarmBillLine line(const VelTarmPriceCharge& theCharge) const;
+    int chargeTo(VelTarmBill* theBill, const VelTarmPriceAnswer& theAnswer) const;
+    int chargeTo(VelTarmBillPositionList* thePositions, const VelTarmPriceAnswer& theAnswer) const;
 
     VelProductAbstract* myProduct;
-    Prices myPrices;                                  ///< sorted by place, each place once
-    std::array<quint32, SHELVES + 2> myShelfBegins{}; ///< where each order source begins, and the end twice
-    unsigned myDiscountModels = 0; ///< the models that occur in entries, as bits: bit n for the model n
-    int myMaxDiscountLevel = 0;
-    VelTransferModel myTransferModel = TRANSFER_MODEL_UNDEFINED;
+    VelTarmPriceStore myStore;
 };
 
 #endif

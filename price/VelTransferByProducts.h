@@ -1,0 +1,34 @@
+#ifndef VELTRANSFERBYPRODUCTS_H
+#define VELTRANSFERBYPRODUCTS_H
+
+#include "frame/VelTarmExport.h"
+
+class VelOrderStatistic;
+class VelProductAbstract;
+class VelTarmPriceKey;
+
+/**
+ * What an order pays for shipping under TRANSFER_MODEL_2, where the products themselves say it: the highest base charge
+ * once, and for all pieces but one their unit charge. A piece of the leading product pays none. Whole cents, wrapping.
+ */
+class VELTARM_EXPORT VelTransferByProducts
+{
+public:
+    /// Of the base entries by the key's order source; null stands for an empty order.
+    VelTransferByProducts(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic);
+
+    /// The first product with the highest base charge, null in an empty order. Borrowed.
+    const VelProductAbstract* leader() const { return myLeader; }
+
+    /// The base charge, never below 0; the charge of all other pieces; and the two together.
+    int base() const { return myBase; }
+    int units() const { return myUnits; }
+    int total() const;
+
+private:
+    const VelProductAbstract* myLeader = nullptr;
+    int myBase = 0;
+    int myUnits = 0;
+};
+
+#endif
