@@ -86,6 +86,9 @@ public:
     {
         return myPriceInfo.basePriceValue(theKey);
     }
+
+    /// What all prices are reckoned from; valid until the next element is read.
+    const VelTarmPriceStore& priceStore() const { return myPriceInfo.store(); }
     void prefetchPrices(const VelOrderSource& theSource) const { myPriceInfo.prefetch(theSource); }
     int baseTransferPrice(const VelTarmPriceKey& theKey) const;
     int unitTransferPrice(const VelTarmPriceKey& theKey) const;
