@@ -42,7 +42,7 @@ int number(const QXmlStreamAttributes& theAttributes, const char* theName, int t
 }
 
 /// The numbers that an order way's half stands for; the first two when it is missing.
-std::vector<int> spread(const QStringRef& theText, const char* theNumbers)
+std::vector<int> spread(QStringView theText, const char* theNumbers)
 {
     if (theText.isEmpty())
         return {0, 1};
@@ -56,7 +56,7 @@ std::vector<int> spread(const QStringRef& theText, const char* theNumbers)
 /// The letter of an entry, a missing one by the section: fees have their own.
 char letterOf(const QXmlStreamAttributes& theAttributes, Section theSection)
 {
-    const QStringRef type = theAttributes.value(QLatin1String("type"));
+    const QStringView type = theAttributes.value(QLatin1String("type"));
     if (!type.isEmpty())
         return type.at(0).toLatin1();
     return theSection == Section::TRANSFERS ? 'F' : theSection == Section::EXPRESS_FEES ? 'X' : 'B';

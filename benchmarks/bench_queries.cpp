@@ -5,7 +5,7 @@
 #include "product/VelProductRegistry.h"
 #include "product/VelProductSorting.h"
 
-#include <QRegExp>
+#include <QRegularExpression>
 
 #include <benchmark/benchmark.h>
 
@@ -81,14 +81,14 @@ void orderTxtHeadNotFound(benchmark::State& theState)
 /// The order by number with a regular expression for each comparison: what the sorted lists would cost without care.
 bool sortByExpression(VelProductAbstract* theLeft, VelProductAbstract* theRight)
 {
-    static const QRegExp pattern(QStringLiteral("(\\d+).*"));
+    static const QRegularExpression pattern(QStringLiteral("^(\\d+)"));
     const QString left = theLeft->name();
     const QString right = theRight->name();
-    QRegExp leftPattern = pattern;
-    QRegExp rightPattern = pattern;
-    if (leftPattern.exactMatch(left) && rightPattern.exactMatch(right)) {
-        const int leftNumber = leftPattern.cap(1).toInt();
-        const int rightNumber = rightPattern.cap(1).toInt();
+    const QRegularExpressionMatch leftMatch = pattern.match(left);
+    const QRegularExpressionMatch rightMatch = pattern.match(right);
+    if (leftMatch.hasMatch() && rightMatch.hasMatch()) {
+        const int leftNumber = leftMatch.captured(1).toInt();
+        const int rightNumber = rightMatch.captured(1).toInt();
         return leftNumber != rightNumber ? leftNumber < rightNumber : left.length() < right.length();
     }
     if (left.length() != right.length())
@@ -121,7 +121,7 @@ void sortByNumberOnce(benchmark::State& theState)
 {
     VelProductList expected = unsortedGroup(theState);
     VelProductList sorted = expected;
-    qSort(expected.begin(), expected.end(), sortByExpression);
+    quickSort(expected.begin(), expected.end(), sortByExpression);
     sortProductsByNumber(sorted);
     if (sorted != expected)
         theState.SkipWithError("another order");
@@ -130,8 +130,9 @@ void sortByNumberOnce(benchmark::State& theState)
 
 void sortByNumberPerComparison(benchmark::State& theState)
 {
-    measureSort(theState,
-                [](VelProductList& theProducts) { qSort(theProducts.begin(), theProducts.end(), sortByExpression); });
+    measureSort(theState, [](VelProductList& theProducts) {
+        quickSort(theProducts.begin(), theProducts.end(), sortByExpression);
+    });
 }
 
 BENCHMARK(productWithArticleID)->Arg(1000)->Arg(10000);

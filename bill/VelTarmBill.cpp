@@ -5,11 +5,10 @@
 #include "bill/VelTarmBillPosition.h"
 #include "frame/EnumHelper.h"
 #include "frame/VelArithmetic.h"
+#include "frame/VelQuickSort.h"
 #include "price/VelTarmPriceKey.h"
 #include "product/VelProductAddOn.h"
 #include "product/VelProductRegistry.h"
-
-#include <QtAlgorithms>
 
 #include <algorithm>
 #include <limits>
@@ -122,7 +121,7 @@ VelTarmBillPositionList VelTarmBill::orderPositions() const
 VelTarmBillPositionList VelTarmBill::sortedBillPositions() const
 {
     VelTarmBillPositionList sorted = orderPositions();
-    qSort(sorted.begin(), sorted.end(), VelTarmBillPositionAbstract::lessThan);
+    quickSort(sorted.begin(), sorted.end(), VelTarmBillPositionAbstract::lessThan);
     return sorted;
 }
 

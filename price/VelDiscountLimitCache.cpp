@@ -1,9 +1,8 @@
 #include "price/VelDiscountLimitCache.h"
 
 #include "frame/VelGuardedInstance.h"
+#include "frame/VelQuickSort.h"
 #include "product/VelProductRegistry.h"
-
-#include <QtAlgorithms>
 
 VelDiscountLimitCache::VelDiscountLimitCache()
 {
@@ -30,7 +29,7 @@ QList<VelDiscountLimit> VelDiscountLimitCache::calculateList(int theShippingGrou
 {
     QList<VelDiscountLimit> limits =
         VelProductRegistry::instance()->discountLimits(theShippingGroupId, theKey).values();
-    qSort(limits.begin(), limits.end(), compareDiscountLimit);
+    quickSort(limits.begin(), limits.end(), compareDiscountLimit);
     return limits;
 }
 

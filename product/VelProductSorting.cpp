@@ -2,19 +2,17 @@
 
 #include "product/VelProductAbstract.h"
 
-#include <QtAlgorithms>
-
 #include <vector>
 
 namespace {
 
 /// The run of digits at the start of a name, empty when there is none.
-QStringRef leadingDigits(const QString& theName)
+QStringView leadingDigits(const QString& theName)
 {
     int length = 0;
     while (length < theName.length() && theName.at(length).isDigit())
         ++length;
-    return theName.leftRef(length);
+    return QStringView(theName).left(length);
 }
 
 /// A name with what its order depends on.
@@ -22,7 +20,7 @@ struct NumberedName
 {
     explicit NumberedName(const QString& theName) : myName(theName)
     {
-        const QStringRef digits = leadingDigits(theName);
+        const QStringView digits = leadingDigits(theName);
         myHasNumber = !digits.isEmpty();
         myNumber = digits.toInt();
     }
@@ -66,7 +64,7 @@ void sortProductsByNumber(VelProductList& theProducts)
     products.reserve(static_cast<std::size_t>(theProducts.size()));
     for (VelProductAbstract* product : qAsConst(theProducts))
         products.push_back({NumberedName(product->name()), product});
-    qSort(products.begin(), products.end(), [](const NumberedProduct& theLeft, const NumberedProduct& theRight) {
+    quickSort(products.begin(), products.end(), [](const NumberedProduct& theLeft, const NumberedProduct& theRight) {
         return theLeft.myName.isBefore(theRight.myName);
     });
     for (int index = 0; index < theProducts.size(); ++index)
