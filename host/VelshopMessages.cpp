@@ -1,7 +1,8 @@
 #include "host/VelshopMessages.h"
 
+#include "host/VelshopStream.h"
+
 #include <QStringList>
-#include <QTextStream>
 
 namespace {
 
@@ -32,7 +33,7 @@ void VelshopMessages::drop()
 void VelshopMessages::write()
 {
     QTextStream errors(stderr);
-    errors.setCodec("UTF-8");
+    useUtf8(errors);
     for (const QString& message : qAsConst(messages()))
         errors << message << '\n';
 }

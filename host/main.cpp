@@ -7,11 +7,11 @@
 #include "host/VelshopMessages.h"
 #include "host/VelshopPrice.h"
 #include "host/VelshopShop.h"
+#include "host/VelshopStream.h"
 #include "host/VelshopTypes.h"
 #include "host/VelshopUnit.h"
 
 #include <QCoreApplication>
-#include <QTextStream>
 #include <QTranslator>
 
 #include <cstdio>
@@ -39,7 +39,7 @@ int runCommand(const VelshopArguments& theArguments, QTextStream& theOutput, QSt
 int answer(const VelshopArguments& theArguments, QString& theError)
 {
     QTextStream output(stdout);
-    output.setCodec("UTF-8");
+    useUtf8(output);
     const int exitCode = runCommand(theArguments, output, theError);
     output.flush();
     if (output.status() == QTextStream::Ok && fflush(stdout) == 0)
@@ -52,7 +52,7 @@ int answer(const VelshopArguments& theArguments, QString& theError)
 void writeError(const QString& theError)
 {
     QTextStream errors(stderr);
-    errors.setCodec("UTF-8");
+    useUtf8(errors);
     errors << "velshop: " << QString(theError).replace(QLatin1Char('\n'), QLatin1Char(' ')) << '\n';
 }
 

@@ -48,12 +48,12 @@ void VelTarmShippingTime::readDays(const QString& theText)
     int end = endOfDigits(theText, begin);
     if (begin == end)
         return;
-    myMinDays = theText.midRef(begin, end - begin).toInt(); // 0 when no int holds it
-    QStringRef lastOfChain;
+    myMinDays = QStringView(theText).mid(begin, end - begin).toInt(); // 0 when no int holds it
+    QStringView lastOfChain;
     while (end < theText.length() && theText.at(end) == QLatin1Char('-') && endOfDigits(theText, end + 1) > end + 1) {
         const int numberBegin = end + 1;
         end = endOfDigits(theText, numberBegin);
-        lastOfChain = theText.midRef(numberBegin, end - numberBegin);
+        lastOfChain = QStringView(theText).mid(numberBegin, end - numberBegin);
     }
     bool isNumber = false;
     myMaxDays = lastOfChain.toInt(&isNumber);

@@ -13,7 +13,8 @@ const QString STR_END_OFFER_DATE = QStringLiteral("end_offer_date");
 /// The Unix epoch, by way of its text: read for each entry it would dominate a load.
 const QDateTime& defaultEndOfOffer()
 {
-    static const QDateTime epoch = QDateTime::fromString(QDateTime::fromTime_t(0).toString(Qt::ISODate), Qt::ISODate);
+    static const QDateTime epoch =
+        QDateTime::fromString(QDateTime::fromSecsSinceEpoch(0).toString(Qt::ISODate), Qt::ISODate);
     return epoch;
 }
 

@@ -51,7 +51,9 @@ void warnOfUnlistedId(const QDomElement& theElement, const QString& theReason)
 } // namespace
 
 VelProductFactory::VelProductFactory()
-    : myCalendarIds(CALENDAR_IDS), myFotoBookIds(FOTO_BOOK_IDS), myExcludedProductClasses(EXCLUDED_PRODUCT_CLASSES)
+    : myCalendarIds(QRegularExpression::anchoredPattern(CALENDAR_IDS))
+    , myFotoBookIds(QRegularExpression::anchoredPattern(FOTO_BOOK_IDS))
+    , myExcludedProductClasses(QRegularExpression::anchoredPattern(EXCLUDED_PRODUCT_CLASSES))
 {
 }
 
@@ -82,7 +84,7 @@ VelProductAbstract* VelProductFactory::build(const QDomElement& theElement) cons
 VelProductAbstract* VelProductFactory::buildAddOn(const QDomElement& theElement) const
 {
     const QString productClass = text(theElement, STR_PRODUCT_CLASS);
-    if (productClass.isEmpty() || myExcludedProductClasses.exactMatch(productClass))
+    if (productClass.isEmpty() || myExcludedProductClasses.match(productClass).hasMatch())
         return nullptr;
     return buildContent(theElement);
 }
@@ -97,12 +99,12 @@ VelProductAbstract* VelProductFactory::buildArticle(const QDomElement& theElemen
     case PRODUCT_ARRANGEMENT_CARD:
         return buildCard(theElement);
     case PRODUCT_ARRANGEMENT_PHOTOBOOK:
-        if (myFotoBookIds.exactMatch(text(theElement, STR_ID)))
+        if (myFotoBookIds.match(text(theElement, STR_ID)).hasMatch())
             return buildFotoBook(theElement);
         warnOfUnlistedId(theElement, QStringLiteral("Fotobuch"));
         return nullptr;
     case PRODUCT_ARRANGEMENT_CALENDAR:
-        if (myCalendarIds.exactMatch(text(theElement, STR_ID)))
+        if (myCalendarIds.match(text(theElement, STR_ID)).hasMatch())
             return buildCalendar(theElement);
         warnOfUnlistedId(theElement, QStringLiteral("Kalender"));
         return nullptr;

@@ -4,7 +4,7 @@
 #include "frame/VelEnumerations.h"
 
 #include <QDomElement>
-#include <QRegExp>
+#include <QRegularExpression>
 
 class VelProductAbstract;
 
@@ -37,9 +37,9 @@ private:
     VelProductAbstract* buildAddOn(const QDomElement& theElement) const;
     VelProductAbstract* buildArticle(const QDomElement& theElement) const;
 
-    QRegExp myCalendarIds;
-    QRegExp myFotoBookIds;
-    QRegExp myExcludedProductClasses;
+    QRegularExpression myCalendarIds;
+    QRegularExpression myFotoBookIds;
+    QRegularExpression myExcludedProductClasses;
 };
 
 #endif

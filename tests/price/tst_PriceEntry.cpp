@@ -125,7 +125,7 @@ private slots:
     void validity()
     {
         const VelTarmPriceValue* invalid = VelTarmPriceValue::invalidPrice();
-        QCOMPARE(invalid->endOfferDate(), QDateTime::fromTime_t(0));
+        QCOMPARE(invalid->endOfferDate(), QDateTime::fromSecsSinceEpoch(0));
         for (const char* said : {"", "type='B'", "price='-1' quantity='0' level='0'", "input_source='1'"})
             QVERIFY2(!valueOf(said).isValid() && valueOf(said) == invalid, said);
         for (const char* said : {"type='b'", "price='0'", "quantity='5'", "level='1'", "non_offer_price='0'",
