@@ -2,11 +2,11 @@
 # marks something for export, what such a header includes, and the loop over child elements, which hosts use as well.
 function(veltarm_public_headers result)
   file(GLOB headers RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS
-       ${PROJECT_SOURCE_DIR}/bill/*.h ${PROJECT_SOURCE_DIR}/frame/*.h ${PROJECT_SOURCE_DIR}/ordering/*.h
-       ${PROJECT_SOURCE_DIR}/price/*.h ${PROJECT_SOURCE_DIR}/product/*.h ${PROJECT_SOURCE_DIR}/sibling/*.h)
+       ${PROJECT_SOURCE_DIR}/bill/*.h ${PROJECT_SOURCE_DIR}/frame/*.h ${PROJECT_SOURCE_DIR}/insight/*.h
+       ${PROJECT_SOURCE_DIR}/ordering/*.h ${PROJECT_SOURCE_DIR}/price/*.h ${PROJECT_SOURCE_DIR}/product/*.h ${PROJECT_SOURCE_DIR}/sibling/*.h)
   set(pending frame/VelChildElements.h)
   foreach(header IN LISTS headers)
-    file(STRINGS ${PROJECT_SOURCE_DIR}/${header} exports REGEX "VEL(TARM|SIBLING)_EXPORT ")
+    file(STRINGS ${PROJECT_SOURCE_DIR}/${header} exports REGEX "VEL(TARM|SIBLING|INSIGHT)_EXPORT ")
     if(exports)
       list(APPEND pending ${header})
     endif()

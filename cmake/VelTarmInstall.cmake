@@ -9,14 +9,16 @@ set(VELTARM_INSTALL_SHOPDIR ${CMAKE_INSTALL_DATADIR}/veltarm)
 set(VELTARM_INSTALL_DOCDIR ${CMAKE_INSTALL_DATADIR}/doc/veltarm)
 
 # Other sibling libraries come with a package of their own, which a user of ours has to find first.
-set(VELTARM_INSTALL_TARGETS VelTarm VelTarmStatic)
+set(VELTARM_INSTALL_TARGETS VelTarm VelTarmStatic VelTarmInsight VelTarmInsightStatic)
 if(VELTARM_SIBLING_TARGET STREQUAL VelTarmSibling)
   list(APPEND VELTARM_INSTALL_TARGETS VelTarmSibling)
 endif()
 
 # An installation works wherever it is moved to: each library and program looks for the libraries beside itself.
-set_target_properties(VelTarm VelTarmSibling PROPERTIES INSTALL_RPATH "$ORIGIN")
+set_target_properties(VelTarm VelTarmInsight VelTarmSibling PROPERTIES INSTALL_RPATH "$ORIGIN")
 set_target_properties(VelTarmStatic PROPERTIES EXPORT_NAME Static)
+set_target_properties(VelTarmInsight PROPERTIES EXPORT_NAME Insight)
+set_target_properties(VelTarmInsightStatic PROPERTIES EXPORT_NAME InsightStatic)
 set_target_properties(VelTarmSibling PROPERTIES EXPORT_NAME Sibling)
 
 install(TARGETS ${VELTARM_INSTALL_TARGETS} EXPORT VelTarmTargets
