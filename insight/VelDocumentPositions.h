@@ -29,8 +29,8 @@ public:
     /// What is told about a place.
     struct Remark
     {
-        VelDocumentPlace myPlace;
-        QString myReason;
+        VelDocumentPlace myPlace; ///< where it is
+        QString myReason;         ///< what it is, a sentence without a full stop
     };
 
     /// Indexes a text. One that is no XML is indexed as far as it goes.
@@ -58,6 +58,7 @@ public:
     /// The tag as it is written.
     QString tag(int theNumber) const;
 
+    /// All comments, in document order.
     const QVector<Comment>& comments() const { return myComments; }
     /// What isn't well-formed and is read all the same, in document order. It ends after 32.
     const QVector<Remark>& oddities() const { return myOddities; }

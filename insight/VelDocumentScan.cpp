@@ -132,10 +132,9 @@ bool VelDocumentScan::mend(int theOffset, XML_Error theError)
     const int end = endOfAttribute(theOffset, value);
     if ((!isTwice && !isJoined) || end < 0 || myPositions.myOddities.size() == MOST_ODDITIES)
         return false;
-    const QString name = myText.mid(theOffset, endOfName(theOffset) - theOffset);
     const QString reason = isTwice ? QStringLiteral("the attribute %1 stands twice; the last one is read")
                                    : QStringLiteral("there is no blank in front of the attribute %1");
-    myPositions.myOddities.append({myPositions.text().place(theOffset), reason.arg(name)});
+    myPositions.myOddities.append({myPositions.text().place(theOffset), reason.arg(myPositions.nameAt(theOffset))});
     std::replace_if(
         myCopy.begin() + theOffset, myCopy.begin() + end, [](char theByte) { return theByte != '\n'; }, ' ');
     return true;
@@ -159,8 +158,7 @@ void VelDocumentScan::tellError(int theOffset, const QString& theReason)
 
 QString VelDocumentScan::mismatch(int theOffset) const
 {
-    const QString name = myText.mid(theOffset, endOfName(theOffset) - theOffset);
-    return QStringLiteral("</%1> doesn't close %2").arg(name, innermost());
+    return QStringLiteral("</%1> doesn't close %2").arg(myPositions.nameAt(theOffset), innermost());
 }
 
 /// The innermost open element, with its line.

@@ -1,6 +1,6 @@
 #include "insight/VelPositionedDocument.h"
 
-#include "frame/VelGuardedDocument.h"
+#include "sibling/VelGuardedDocument.h"
 
 #include <QFile>
 
