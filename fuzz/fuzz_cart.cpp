@@ -1,7 +1,6 @@
 #include "bill/VelTarmBill.h"
 #include "fuzz/FuzzBill.h"
 #include "fuzz/FuzzShop.h"
-#include "host/VelshopArguments.h"
 #include "host/VelshopBill.h"
 #include "host/VelshopCart.h"
 #include "host/VelshopExitCode.h"
@@ -36,11 +35,11 @@ int askBills(const VelshopCart& theCart)
     return pieces;
 }
 
-int bill(const VelshopArguments& theArguments)
+int bill(const VelshopBillArguments& theArguments)
 {
     VelshopMessages::drop();
     QString output;
-    QString error;
+    VelshopError error;
     QTextStream stream(&output);
     const int exitCode = billCart(theArguments, stream, error);
     FUZZ_REQUIRE(error.isEmpty() == (exitCode == EXIT_DONE));
@@ -62,13 +61,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* theData, size_t theSize)
 {
     static const QString page = FuzzShop::write(QStringLiteral("page.html"), QByteArray());
     static const QString discounts = FuzzShop::write(QStringLiteral("discounts.xml"), QByteArray());
-    VelshopArguments arguments;
+    VelshopBillArguments arguments;
     arguments.myCart = FuzzShop::write(QStringLiteral("carts/cart.json"),
                                        QByteArray(reinterpret_cast<const char*>(theData), static_cast<int>(theSize)));
     arguments.myHasOrderText = true;
     arguments.myIsJson = true;
     VelshopCart cart;
-    QString error;
+    VelshopError error;
     if (!readCart(arguments.myCart, cart, error)) {
         FUZZ_REQUIRE(bill(arguments) == EXIT_BAD_INPUT);
         return 0;

@@ -18,10 +18,10 @@ const QString STR_ISO_CODE = QStringLiteral("isocode");
 
 /// The document element; null, with file, line, column and reason in the error, for a document that can't be read. The
 /// library takes such a one for empty, but a person at a desk wants to know. The loader's own message tells the place.
-QDomElement readDocument(const QFileInfo& theDocument, QString& theError)
+QDomElement readDocument(const QFileInfo& theDocument, VelshopError& theError)
 {
     if (!theDocument.isFile()) {
-        theError = QStringLiteral("%1: there is no such file").arg(theDocument.filePath());
+        theError = {theDocument.filePath(), 0, 0, QStringLiteral("there is no such file")};
         return QDomElement();
     }
     VelshopMessages::drop();
@@ -29,7 +29,7 @@ QDomElement readDocument(const QFileInfo& theDocument, QString& theError)
     if (root.isNull())
         theError = VelshopMessages::last().section(QStringLiteral(" -- "), 1);
     if (root.isNull() && theError.isEmpty()) // the log may be filtered
-        theError = QStringLiteral("%1: can't be read").arg(theDocument.filePath());
+        theError = {theDocument.filePath(), 0, 0, QStringLiteral("can't be read")};
     VelshopMessages::drop();
     return root;
 }
@@ -44,22 +44,19 @@ bool holdsCurrency(const QDomElement& theCurrencies, const QString& theIsoCode)
 
 /// Without any currency the library would end the process, and without the primary one it would have nothing to print
 /// money with: both are told before either can happen.
-bool canPrintMoney(const QFileInfo& theFile, const QDomElement& theCurrencies, QString& theError)
+bool canPrintMoney(const QFileInfo& theFile, const QDomElement& theCurrencies, VelshopError& theError)
 {
     const QString primary = VelOrderingDetails::instance()->currency();
     if (holdsCurrency(theCurrencies, primary))
         return true;
-    theError = QStringLiteral("%1, line %2, column %3: the file does not define the shop's currency %4")
-                   .arg(theFile.filePath())
-                   .arg(theCurrencies.lineNumber())
-                   .arg(theCurrencies.columnNumber())
-                   .arg(primary);
+    theError = {theFile.filePath(), theCurrencies.lineNumber(), theCurrencies.columnNumber(),
+                QStringLiteral("the file does not define the shop's currency %1").arg(primary)};
     return false;
 }
 
 } // namespace
 
-bool openAccount(const QString& theFolder, QString& theError)
+bool openAccount(const QString& theFolder, VelshopError& theError)
 {
     VelDirectoryConfig::instance()->setResourceDirectory(theFolder);
     VelDirectoryConfig::instance()->setConfigurationDirectory(theFolder);

@@ -2,7 +2,7 @@
 
 #include "product/VelProductRegistry.h"
 
-VelProductAbstract* findArticle(int theArticle, QString& theError)
+VelProductAbstract* findArticle(int theArticle, VelshopError& theError)
 {
     VelProductAbstract* product = VelProductRegistry::instance()->productWithArticleID(theArticle);
     if (!product)

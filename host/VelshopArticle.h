@@ -1,12 +1,12 @@
 #ifndef VELSHOPARTICLE_H
 #define VELSHOPARTICLE_H
 
-#include <QString>
+#include "host/VelshopError.h"
 
 class VelProductAbstract;
 
 /// The product of an article id, which stays the registry's; null, with the error in one line, when the price list has
 /// none.
-VelProductAbstract* findArticle(int theArticle, QString& theError);
+VelProductAbstract* findArticle(int theArticle, VelshopError& theError);
 
 #endif

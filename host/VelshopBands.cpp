@@ -1,7 +1,7 @@
 #include "host/VelshopBands.h"
 
 #include "frame/VelTarmGlobalStatus.h"
-#include "host/VelshopArguments.h"
+#include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopTable.h"
 #include "host/VelshopWords.h"
@@ -58,7 +58,13 @@ void addRows(const VelDiscountLimit& theBand, const QList<PriceInBand>& thePrice
 
 } // namespace
 
-int showBands(const VelshopArguments& theArguments, QTextStream& theOutput, QString& theError)
+bool readBandsArguments(const VelshopCommandLine& theLine, VelshopBandsArguments& theArguments, VelshopError& theError)
+{
+    return VelshopCommandLine::readNumber(theLine.words().at(0), QStringLiteral("GROUP"), VelshopCommandLine::LOWEST_ID,
+                                          theArguments.myGroup, theError);
+}
+
+int showBands(const VelshopBandsArguments& theArguments, QTextStream& theOutput, VelshopError& theError)
 {
     if (!VelTarmShippingGroupManager::instance()->shippingGroup(theArguments.myGroup)) {
         theError = QStringLiteral("the shop has no shipping group %1").arg(theArguments.myGroup);

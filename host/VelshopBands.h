@@ -1,13 +1,22 @@
 #ifndef VELSHOPBANDS_H
 #define VELSHOPBANDS_H
 
-#include <QString>
+#include "host/VelshopArguments.h"
+#include "host/VelshopError.h"
 
-struct VelshopArguments;
 class QTextStream;
+class VelshopCommandLine;
+
+/// Arguments of `velshop bands`.
+struct VelshopBandsArguments : VelshopArguments
+{
+    int myGroup = 0; ///< shipping group whose bands are shown
+};
+
+bool readBandsArguments(const VelshopCommandLine& theLine, VelshopBandsArguments& theArguments, VelshopError& theError);
 
 /// Prints the discount bands of a shipping group, and what each of its products costs in each band, under the shop's
 /// starting choice. The exit code; for any but 0 the error in one line.
-int showBands(const VelshopArguments& theArguments, QTextStream& theOutput, QString& theError);
+int showBands(const VelshopBandsArguments& theArguments, QTextStream& theOutput, VelshopError& theError);
 
 #endif

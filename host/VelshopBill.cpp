@@ -1,13 +1,14 @@
 #include "host/VelshopBill.h"
 
-#include "host/VelshopArguments.h"
 #include "host/VelshopBillData.h"
 #include "host/VelshopBillDiscounts.h"
 #include "host/VelshopBillHtml.h"
 #include "host/VelshopBillSheet.h"
 #include "host/VelshopBillText.h"
 #include "host/VelshopCart.h"
+#include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
+#include "host/VelshopOptions.h"
 #include "product/VelProductAbstract.h"
 
 #include <QJsonArray>
@@ -19,12 +20,12 @@ namespace {
 
 /// Either the whole file is there or the former one stays. Flushed by hand: a disk that turns out to be full when
 /// commit() flushes would not keep it from replacing the former file.
-bool save(const QString& theFile, const QByteArray& theContent, QString& theError)
+bool save(const QString& theFile, const QByteArray& theContent, VelshopError& theError)
 {
     QSaveFile file(theFile);
     if (file.open(QIODevice::WriteOnly) && file.write(theContent) == theContent.size() && file.flush() && file.commit())
         return true;
-    theError = QStringLiteral("%1: %2").arg(theFile, file.errorString());
+    theError = {theFile, 0, 0, file.errorString()};
     return false;
 }
 
@@ -55,8 +56,8 @@ void printText(const VelshopBillSheet& theSheet, const QList<QStringList>& theOr
         theOutput << '\n' << lines.join(QLatin1Char('\n')) << '\n';
 }
 
-bool writeFiles(const VelshopArguments& theArguments, const VelshopCart& theCart, const VelshopBillSheet& theSheet,
-                QString& theError)
+bool writeFiles(const VelshopBillArguments& theArguments, const VelshopCart& theCart, const VelshopBillSheet& theSheet,
+                VelshopError& theError)
 {
     if (!theArguments.myHtmlFile.isEmpty() && !save(theArguments.myHtmlFile, billPage(theSheet), theError))
         return false;
@@ -66,7 +67,15 @@ bool writeFiles(const VelshopArguments& theArguments, const VelshopCart& theCart
 
 } // namespace
 
-int billCart(const VelshopArguments& theArguments, QTextStream& theOutput, QString& theError)
+bool readBillArguments(const VelshopCommandLine& theLine, VelshopBillArguments& theArguments, VelshopError& theError)
+{
+    theArguments.myCart = theLine.words().at(0);
+    theArguments.myHasOrderText = theLine.isSet(VelshopOptions::STR_ORDER_TEXT);
+    return theLine.readFileOption(VelshopOptions::STR_HTML, theArguments.myHtmlFile, theError) &&
+           theLine.readFileOption(VelshopOptions::STR_DISCOUNTS, theArguments.myDiscountsFile, theError);
+}
+
+int billCart(const VelshopBillArguments& theArguments, QTextStream& theOutput, VelshopError& theError)
 {
     VelshopCart cart;
     VelshopBillSheet sheet;
@@ -80,6 +89,6 @@ int billCart(const VelshopArguments& theArguments, QTextStream& theOutput, QStri
         printText(sheet, texts, theOutput);
     if (sheet.isOrderable())
         return EXIT_DONE;
-    theError = cart.myFile + QStringLiteral(": not orderable: ") + sheet.myProblems.join(QStringLiteral("; "));
+    theError = {cart.myFile, 0, 0, QStringLiteral("not orderable: ") + sheet.myProblems.join(QStringLiteral("; "))};
     return EXIT_NO_PRICE;
 }

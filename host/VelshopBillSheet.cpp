@@ -67,7 +67,7 @@ class SheetMaker
 public:
     SheetMaker(const VelshopCart& theCart, VelshopBillSheet& theSheet) : myCart(theCart), mySheet(theSheet) {}
 
-    bool make(QString& theError)
+    bool make(VelshopError& theError)
     {
         if (!readCoupon(theError))
             return false;
@@ -82,10 +82,10 @@ public:
     }
 
 private:
-    QString tooLarge(const QString& theWhat) const
+    VelshopError tooLarge(const QString& theWhat) const
     {
-        return QStringLiteral("%1, items: an amount of %2 is beyond what 32 bits of cents can hold")
-            .arg(myCart.myFile, theWhat);
+        return {myCart.myFile, 0, 0,
+                QStringLiteral("items: an amount of %1 is beyond what 32 bits of cents can hold").arg(theWhat)};
     }
 
     QString head() const
@@ -100,7 +100,7 @@ private:
         return text + QStringLiteral("; express %1").arg(myCart.myExpress.value() - ExpressableType_STANDARD);
     }
 
-    bool readCoupon(QString& theError)
+    bool readCoupon(VelshopError& theError)
     {
         if (myCart.myCouponFile.isEmpty())
             return true;
@@ -108,16 +108,16 @@ private:
         if (document.isNull()) {
             // The loader's own message tells line and column, but the log may be filtered.
             const QString reason = VelshopMessages::last().section(QStringLiteral(" -- "), 1);
-            theError = QStringLiteral("%1, coupon: %2")
-                           .arg(myCart.myFile,
-                                reason.isEmpty() ? myCart.myCouponFile + QStringLiteral(" can't be read") : reason);
+            theError = {myCart.myFile, 0, 0,
+                        QStringLiteral("coupon: ") +
+                            (reason.isEmpty() ? myCart.myCouponFile + QStringLiteral(" can't be read") : reason)};
             return false;
         }
         myCoupon = std::make_unique<VelCoupon>(myCart.myCouponId, document);
         return true;
     }
 
-    bool addGroup(int theId, const VelOrderStatistic& theStatistic, QString& theError)
+    bool addGroup(int theId, const VelOrderStatistic& theStatistic, VelshopError& theError)
     {
         const VelTarmBill bill(theId, theStatistic, myCart.myExpress, myCart.myStatus);
         VelshopBillGroup group{theId, VelTarmShippingGroupManager::instance()->shippingGroupName(theId), {}, {}, {}};
@@ -264,7 +264,7 @@ bool VelshopBillSums::fit() const
     return true;
 }
 
-bool makeBillSheet(const VelshopCart& theCart, VelshopBillSheet& theSheet, QString& theError)
+bool makeBillSheet(const VelshopCart& theCart, VelshopBillSheet& theSheet, VelshopError& theError)
 {
     return SheetMaker(theCart, theSheet).make(theError);
 }

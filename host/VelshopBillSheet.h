@@ -2,6 +2,7 @@
 #define VELSHOPBILLSHEET_H
 
 #include "frame/VelEnumerations.h"
+#include "host/VelshopError.h"
 
 #include <QList>
 #include <QString>
@@ -74,6 +75,6 @@ struct VelshopBillSheet
 
 /// Makes a bill for each shipping group of the cart. False, with the error in one line, when the coupon can't be read
 /// or an amount is too large.
-bool makeBillSheet(const VelshopCart& theCart, VelshopBillSheet& theSheet, QString& theError);
+bool makeBillSheet(const VelshopCart& theCart, VelshopBillSheet& theSheet, VelshopError& theError);
 
 #endif

@@ -118,10 +118,10 @@ private:
         const int article = myReader.number(item.value(STR_ARTICLE), place + STR_ARTICLE,
                                             std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
         const int count = myReader.number(item.value(STR_COUNT), place + STR_COUNT, 1, HIGHEST_COUNT);
-        QString reason;
+        VelshopError reason;
         VelProductAbstract* product = findArticle(article, reason);
         if (!product)
-            myReader.refuse(place + STR_ARTICLE, reason);
+            myReader.refuse(place + STR_ARTICLE, reason.text());
         if (myReader.isRefused())
             return;
         addPieces(product, count, thePlace);
@@ -209,7 +209,7 @@ private:
 
 } // namespace
 
-bool readCart(const QString& theFile, VelshopCart& theCart, QString& theError)
+bool readCart(const QString& theFile, VelshopCart& theCart, VelshopError& theError)
 {
     VelshopJsonReader reader(theFile);
     theCart.myFile = theFile;

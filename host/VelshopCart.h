@@ -4,6 +4,7 @@
 #include "bill/VelOrderStatistic.h"
 #include "frame/VelExpressType.h"
 #include "frame/VelTarmStatus.h"
+#include "host/VelshopError.h"
 
 #include <QMap>
 #include <QString>
@@ -23,6 +24,6 @@ struct VelshopCart
 };
 
 /// Reads the cart. False, with the error in one line that names file and place, when it can't be ordered as it stands.
-bool readCart(const QString& theFile, VelshopCart& theCart, QString& theError);
+bool readCart(const QString& theFile, VelshopCart& theCart, VelshopError& theError);
 
 #endif

@@ -27,7 +27,7 @@ QString shown(const QJsonValue& theValue)
 void VelshopJsonReader::refuse(const QString& thePlace, const QString& theReason)
 {
     if (!isRefused())
-        myError = QStringLiteral("%1, %2: %3").arg(myFile, thePlace, theReason);
+        myError = {myFile, 0, 0, thePlace + QStringLiteral(": ") + theReason};
 }
 
 /// The parser's offset lies behind the last character that it took.
@@ -36,15 +36,15 @@ void VelshopJsonReader::refuseSyntax(const QByteArray& theBytes, int theOffset, 
     const QByteArray before = theBytes.left(qMax(0, theOffset - 1));
     const int line = before.count('\n') + 1;
     const int column = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).size() + 1;
-    refuse(QStringLiteral("line %1, column %2").arg(line).arg(column), theReason);
+    myError = {myFile, line, column, theReason};
 }
 
 QJsonObject VelshopJsonReader::document()
 {
     QFile file(myFile);
     if (!QFileInfo(myFile).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > LARGEST_FILE) {
-        myError = QStringLiteral("%1: %2").arg(myFile, file.isOpen() ? QStringLiteral("the file is too large")
-                                                                     : QStringLiteral("can't be read"));
+        myError = {myFile, 0, 0,
+                   file.isOpen() ? QStringLiteral("the file is too large") : QStringLiteral("can't be read")};
         return QJsonObject();
     }
     const QByteArray bytes = file.readAll();

@@ -1,8 +1,9 @@
 #ifndef VELSHOPJSONREADER_H
 #define VELSHOPJSONREADER_H
 
+#include "host/VelshopError.h"
+
 #include <QJsonObject>
-#include <QString>
 #include <QStringList>
 
 /// Reads a JSON file strictly: what is missing, of the wrong type or out of range is refused in one line that names the
@@ -13,7 +14,7 @@ public:
     explicit VelshopJsonReader(const QString& theFile) : myFile(theFile) {}
 
     bool isRefused() const { return !myError.isEmpty(); }
-    QString error() const { return myError; }
+    VelshopError error() const { return myError; }
 
     /// The place is a path such as items[2].count.
     void refuse(const QString& thePlace, const QString& theReason);
@@ -34,7 +35,7 @@ private:
     void refuseSyntax(const QByteArray& theBytes, int theOffset, const QString& theReason);
 
     QString myFile;
-    QString myError;
+    VelshopError myError;
 };
 
 #endif

@@ -1,7 +1,8 @@
 #include "host/VelshopList.h"
 
-#include "host/VelshopArguments.h"
+#include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
+#include "host/VelshopOptions.h"
 #include "host/VelshopTable.h"
 #include "host/VelshopWords.h"
 #include "ordering/VelTarmShippingGroupManager.h"
@@ -36,7 +37,7 @@ QString priceText(const VelProductAbstract* theProduct)
     return price == -1 ? QStringLiteral("-") : VelshopWords::money(price);
 }
 
-VelProductList articlesToList(const VelshopArguments& theArguments)
+VelProductList articlesToList(const VelshopListArguments& theArguments)
 {
     VelProductList articles;
     for (VelProductAbstract* product : VelProductRegistry::instance()->productList())
@@ -90,7 +91,14 @@ void printText(const VelProductList& theArticles, QTextStream& theOutput)
 
 } // namespace
 
-int listArticles(const VelshopArguments& theArguments, QTextStream& theOutput, QString& theError)
+bool readListArguments(const VelshopCommandLine& theLine, VelshopListArguments& theArguments, VelshopError& theError)
+{
+    theArguments.myHasGroup = theLine.isSet(VelshopOptions::STR_GROUP);
+    return theLine.readNumberOption(VelshopOptions::STR_GROUP, VelshopCommandLine::LOWEST_ID, theArguments.myGroup,
+                                    theError);
+}
+
+int listArticles(const VelshopListArguments& theArguments, QTextStream& theOutput, VelshopError& theError)
 {
     const VelProductList articles = articlesToList(theArguments);
     if (theArguments.myHasGroup && articles.isEmpty()) {

@@ -1,13 +1,23 @@
 #ifndef VELSHOPLIST_H
 #define VELSHOPLIST_H
 
-#include <QString>
+#include "host/VelshopArguments.h"
+#include "host/VelshopError.h"
 
-struct VelshopArguments;
 class QTextStream;
+class VelshopCommandLine;
+
+/// Arguments of `velshop list`.
+struct VelshopListArguments : VelshopArguments
+{
+    bool myHasGroup = false;
+    int myGroup = 0; ///< shipping group to list
+};
+
+bool readListArguments(const VelshopCommandLine& theLine, VelshopListArguments& theArguments, VelshopError& theError);
 
 /// Prints the articles of the price list, sorted by shipping group and then as the price list has them. The exit code;
 /// for any but 0 the error in one line.
-int listArticles(const VelshopArguments& theArguments, QTextStream& theOutput, QString& theError);
+int listArticles(const VelshopListArguments& theArguments, QTextStream& theOutput, VelshopError& theError);
 
 #endif

@@ -3,9 +3,10 @@
 #include "bill/VelTarmBill.h"
 #include "bill/VelTarmBillPosition.h"
 #include "frame/VelTarmGlobalStatus.h"
-#include "host/VelshopArguments.h"
 #include "host/VelshopArticle.h"
+#include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
+#include "host/VelshopOptions.h"
 #include "host/VelshopWords.h"
 #include "price/VelDiscountLimit.h"
 #include "product/VelProductAbstract.h"
@@ -34,7 +35,7 @@ bool isOnSite(const VelOrderSource& theSource)
 
 /// The halves that the command line names, completed by the shop's starting choice. A kiosk and delivery on site bring
 /// each other along; where the starting choice is on site or wild, the net and mail order take its place.
-VelOrderSource orderSource(const VelshopArguments& theArguments)
+VelOrderSource orderSource(const VelshopPriceArguments& theArguments)
 {
     const VelOrderSource named(theArguments.myInputSource, theArguments.myDeliveryType);
     const bool namesNone = named == VelOrderSource(INPUT_SOURCE_ANY, DELIVERY_TYPE_ANY);
@@ -158,9 +159,30 @@ void print(const PricedArticle& theArticle, bool theIsJson, QTextStream& theOutp
     }
 }
 
+bool readOrderSource(const VelshopCommandLine& theLine, VelshopPriceArguments& theArguments, VelshopError& theError)
+{
+    const QString source = theLine.value(VelshopOptions::STR_SOURCE);
+    const QString delivery = theLine.value(VelshopOptions::STR_DELIVERY);
+    if (theLine.isSet(VelshopOptions::STR_SOURCE) && !VelshopWords::readInputSource(source, theArguments.myInputSource))
+        theError = QStringLiteral("--source must be NET, CD or KIOSK, not \"%1\"").arg(source);
+    else if (theLine.isSet(VelshopOptions::STR_DELIVERY) &&
+             !VelshopWords::readDeliveryType(delivery, theArguments.myDeliveryType))
+        theError = QStringLiteral("--delivery must be POS, MAIL or ONSITE, not \"%1\"").arg(delivery);
+    return theError.isEmpty();
+}
+
 } // namespace
 
-int priceArticle(const VelshopArguments& theArguments, QTextStream& theOutput, QString& theError)
+bool readPriceArguments(const VelshopCommandLine& theLine, VelshopPriceArguments& theArguments, VelshopError& theError)
+{
+    return VelshopCommandLine::readNumber(theLine.words().at(0), QStringLiteral("ARTICLE"),
+                                          VelshopCommandLine::LOWEST_ID, theArguments.myArticle, theError) &&
+           VelshopCommandLine::readNumber(theLine.words().at(1), QStringLiteral("COUNT"), 1, theArguments.myCount,
+                                          theError) &&
+           readOrderSource(theLine, theArguments, theError);
+}
+
+int priceArticle(const VelshopPriceArguments& theArguments, QTextStream& theOutput, VelshopError& theError)
 {
     const VelProductAbstract* product = findArticle(theArguments.myArticle, theError);
     if (!product)

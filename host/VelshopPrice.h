@@ -1,12 +1,26 @@
 #ifndef VELSHOPPRICE_H
 #define VELSHOPPRICE_H
 
-#include <QString>
+#include "frame/VelEnumerations.h"
+#include "host/VelshopArguments.h"
+#include "host/VelshopError.h"
 
-struct VelshopArguments;
 class QTextStream;
+class VelshopCommandLine;
+
+/// Arguments of `velshop price`.
+struct VelshopPriceArguments : VelshopArguments
+{
+    int myArticle = 0;
+    int myCount = 0;
+    /// The two halves of the order source to price by; INPUT_SOURCE_ANY and DELIVERY_TYPE_ANY leave the choice open.
+    VelInputSource myInputSource = INPUT_SOURCE_ANY;
+    VelDeliveryType myDeliveryType = DELIVERY_TYPE_ANY;
+};
+
+bool readPriceArguments(const VelshopCommandLine& theLine, VelshopPriceArguments& theArguments, VelshopError& theError);
 
 /// Prints what so many pieces of an article cost. The exit code; for any but 0 the error in one line.
-int priceArticle(const VelshopArguments& theArguments, QTextStream& theOutput, QString& theError);
+int priceArticle(const VelshopPriceArguments& theArguments, QTextStream& theOutput, VelshopError& theError);
 
 #endif

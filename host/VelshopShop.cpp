@@ -253,7 +253,7 @@ void printFlags(const QJsonObject& theConditions, QTextStream& theOutput)
 
 } // namespace
 
-int showShop(const VelshopArguments& theArguments, QTextStream& theOutput)
+int showShop(const VelshopArguments& theArguments, QTextStream& theOutput, VelshopError&)
 {
     const QJsonObject shop = conditions();
     if (theArguments.myIsJson) {

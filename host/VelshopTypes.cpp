@@ -73,7 +73,7 @@ void addRows(const VelProductType& theType, VelshopTable& theTable)
 
 } // namespace
 
-int listTypes(const VelshopArguments& theArguments, QTextStream& theOutput)
+int listTypes(const VelshopArguments& theArguments, QTextStream& theOutput, VelshopError&)
 {
     QJsonArray json;
     VelshopTable table({QStringLiteral("TYPE"), QStringLiteral("KIND"), QStringLiteral("SCALE"), QStringLiteral("ID"),

@@ -1,9 +1,10 @@
 #include "host/VelshopUnit.h"
 
 #include "bill/VelProductPriceCalculator.h"
-#include "host/VelshopArguments.h"
 #include "host/VelshopArticle.h"
+#include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
+#include "host/VelshopOptions.h"
 #include "host/VelshopWords.h"
 #include "product/VelProductAbstract.h"
 
@@ -56,9 +57,36 @@ void printText(const VelProductPriceCalculator& theCalculator, const QList<Part>
                       << '\n';
 }
 
+bool readTemplates(const VelshopCommandLine& theLine, QMap<QString, int>& theTemplates, VelshopError& theError)
+{
+    for (const QString& text : theLine.values(VelshopOptions::STR_TEMPLATE)) {
+        const int equals = text.lastIndexOf(QLatin1Char('='));
+        int uses = 0;
+        if (equals < 1) {
+            theError = QStringLiteral("--template takes CLASS=N, not \"%1\"").arg(text);
+            return false;
+        }
+        if (!VelshopCommandLine::readNumber(text.mid(equals + 1), QStringLiteral("--template CLASS="), 0, uses,
+                                            theError))
+            return false;
+        theTemplates[text.left(equals)] = uses;
+    }
+    return true;
+}
+
 } // namespace
 
-int priceUnit(const VelshopArguments& theArguments, QTextStream& theOutput, QString& theError)
+bool readUnitArguments(const VelshopCommandLine& theLine, VelshopUnitArguments& theArguments, VelshopError& theError)
+{
+    return VelshopCommandLine::readNumber(theLine.words().at(0), QStringLiteral("ARTICLE"),
+                                          VelshopCommandLine::LOWEST_ID, theArguments.myArticle, theError) &&
+           theLine.readNumberOption(VelshopOptions::STR_PAGES, 0, theArguments.myPages, theError) &&
+           theLine.readNumberOption(VelshopOptions::STR_MAPS, 0, theArguments.myMaps, theError) &&
+           theLine.readNumberOption(VelshopOptions::STR_VIDEOS, 0, theArguments.myVideos, theError) &&
+           readTemplates(theLine, theArguments.myTemplates, theError);
+}
+
+int priceUnit(const VelshopUnitArguments& theArguments, QTextStream& theOutput, VelshopError& theError)
 {
     VelProductAbstract* product = findArticle(theArguments.myArticle, theError);
     if (!product)

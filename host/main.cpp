@@ -1,66 +1,93 @@
 #include "host/VelshopAccount.h"
-#include "host/VelshopArguments.h"
-#include "host/VelshopBands.h"
-#include "host/VelshopBill.h"
+#include "host/VelshopCommands.h"
 #include "host/VelshopExitCode.h"
-#include "host/VelshopList.h"
+#include "host/VelshopHelp.h"
 #include "host/VelshopMessages.h"
-#include "host/VelshopPrice.h"
-#include "host/VelshopShop.h"
+#include "host/VelshopOptions.h"
 #include "host/VelshopStream.h"
-#include "host/VelshopTypes.h"
-#include "host/VelshopUnit.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QTranslator>
 
 #include <cstdio>
 
 namespace {
 
-int runCommand(const VelshopArguments& theArguments, QTextStream& theOutput, QString& theError)
+/// Knows whether anything was printed: an error may only stand where an answer would.
+class StandardOutput : public QFile
 {
-    if (theArguments.myCommand == QLatin1String("list"))
-        return listArticles(theArguments, theOutput, theError);
-    if (theArguments.myCommand == QLatin1String("price"))
-        return priceArticle(theArguments, theOutput, theError);
-    if (theArguments.myCommand == QLatin1String("bands"))
-        return showBands(theArguments, theOutput, theError);
-    if (theArguments.myCommand == QLatin1String("unit"))
-        return priceUnit(theArguments, theOutput, theError);
-    if (theArguments.myCommand == QLatin1String("bill"))
-        return billCart(theArguments, theOutput, theError);
-    if (theArguments.myCommand == QLatin1String("shop"))
-        return showShop(theArguments, theOutput);
-    return listTypes(theArguments, theOutput);
-}
+public:
+    StandardOutput() { open(stdout, WriteOnly); }
+    bool isUsed() const { return myIsUsed; }
 
-/// Runs the command and makes sure that its answer reached the output.
-int answer(const VelshopArguments& theArguments, QString& theError)
-{
-    QTextStream output(stdout);
-    useUtf8(output);
-    const int exitCode = runCommand(theArguments, output, theError);
-    output.flush();
-    if (output.status() == QTextStream::Ok && fflush(stdout) == 0)
-        return exitCode;
-    theError = QStringLiteral("the answer can't be written");
-    return EXIT_BAD_INPUT;
-}
+protected:
+    qint64 writeData(const char* theBytes, qint64 theCount) override
+    {
+        myIsUsed = myIsUsed || theCount > 0;
+        return QFile::writeData(theBytes, theCount);
+    }
 
-/// One line, whatever stands in a document's names.
-void writeError(const QString& theError)
-{
-    QTextStream errors(stderr);
-    useUtf8(errors);
-    errors << "velshop: " << QString(theError).replace(QLatin1Char('\n'), QLatin1Char(' ')) << '\n';
-}
+private:
+    bool myIsUsed = false;
+};
 
 /// The texts stand in German; any other language needs a translation.
 void installLanguage(QTranslator& theTranslator, const QString& theLanguage)
 {
     if (theLanguage != QLatin1String("de") && theTranslator.load(QStringLiteral(":/veltarm_%1.qm").arg(theLanguage)))
         QCoreApplication::installTranslator(&theTranslator);
+}
+
+const VelshopCommand* findCommand(const VelshopCommandLine& theLine, VelshopError& theError)
+{
+    const VelshopCommand* command = VelshopCommands::find(theLine.command());
+    if (theLine.command().isEmpty())
+        theError = QStringLiteral("no command given, see velshop --help");
+    else if (!command)
+        theError = QStringLiteral("unknown command \"%1\", see velshop --help").arg(theLine.command());
+    return command;
+}
+
+int runCommand(const VelshopCommandLine& theLine, QTextStream& theOutput, VelshopError& theError)
+{
+    const VelshopCommand* command = findCommand(theLine, theError);
+    if (!command || !command->accepts(theLine, theError))
+        return EXIT_BAD_INPUT;
+    const VelshopRun run = command->myReader(theLine, theError);
+    VelshopArguments shared;
+    if (!run || !theLine.readShared(shared, theError))
+        return EXIT_BAD_INPUT;
+    QTranslator translator;
+    installLanguage(translator, shared.myLanguage);
+    if (command->myAccountUse == OPENS_ACCOUNT && !openAccount(shared.myAccount, theError))
+        return EXIT_BAD_INPUT;
+    return run(theOutput, theError);
+}
+
+int answer(const VelshopCommandLine& theLine, QTextStream& theOutput, VelshopError& theError)
+{
+    if (theLine.isSet(VelshopOptions::STR_VERSION)) {
+        theOutput << QCoreApplication::applicationName() << ' ' << QCoreApplication::applicationVersion() << '\n';
+        return EXIT_DONE;
+    }
+    if (!theLine.isSet(VelshopOptions::STR_HELP))
+        return runCommand(theLine, theOutput, theError);
+    const VelshopCommand* command = theLine.command().isEmpty() ? nullptr : findCommand(theLine, theError);
+    if (!theError.isEmpty())
+        return EXIT_BAD_INPUT;
+    theOutput << (command ? VelshopHelp::of(*command) : VelshopHelp::general());
+    return EXIT_DONE;
+}
+
+/// A caller that reads JSON gets errors as such; but behind an answer that tells what is wrong there is no second one.
+void writeError(const VelshopError& theError, bool theIsJson, StandardOutput& theOutput)
+{
+    if (theIsJson && !theOutput.isUsed() && theOutput.write(theError.json()) >= 0 && theOutput.flush())
+        return;
+    QTextStream errors(stderr);
+    useUtf8(errors);
+    errors << "velshop: " << theError.text() << '\n';
 }
 
 } // namespace
@@ -70,21 +97,24 @@ int main(int argc, char* argv[])
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("velshop"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VELSHOP_VERSION));
-
     VelshopMessages::holdBack();
 
-    VelshopArguments arguments;
-    QString error;
+    StandardOutput output;
+    QTextStream stream(&output);
+    useUtf8(stream);
+    VelshopCommandLine line;
+    VelshopError error;
     int exitCode = EXIT_BAD_INPUT;
-    QTranslator translator;
-    if (readArguments(QCoreApplication::arguments(), arguments, error)) {
-        installLanguage(translator, arguments.myLanguage);
-        if (openAccount(arguments.myAccount, error))
-            exitCode = answer(arguments, error);
+    if (line.parse(QCoreApplication::arguments(), error))
+        exitCode = answer(line, stream, error);
+    stream.flush();
+    if (stream.status() != QTextStream::Ok || !output.flush()) {
+        error = QStringLiteral("the answer can't be written");
+        exitCode = EXIT_BAD_INPUT;
     }
     if (exitCode != EXIT_BAD_INPUT)
         VelshopMessages::write();
     if (!error.isEmpty())
-        writeError(error);
+        writeError(error, line.isSet(VelshopOptions::STR_JSON), output);
     return exitCode;
 }

@@ -72,10 +72,11 @@ private slots:
             price 103 1 --source FAX                    | 2        | "FAX"
             price 2302 1 --source KIOSK --delivery MAIL | 2        | go together
             price 103 1 --group 1                       | 2        | --group
-            price 103 -1                                | 2        | behind
+            price 103 -5                                | 2        | COUNT must be 1 or more
+            bands                                       | 2        | bands takes 1 argument behind
             bands 99                                    | 2        | 99
             unit 142 --pages 1                          | 1        | no price
-            unit 9210                                   | 2        | --pages
+            unit 9210                                   | 2        | needs --pages
             unit 9210 --pages 40 --template 12          | 2        | CLASS=N
             list --account=                             | 2        | no folder
             list --account /nonexistent                 | 2        | no such file
@@ -130,6 +131,8 @@ private slots:
         QVERIFY(json("price 142 1")["amount"].isNull());
         const QJsonDocument unit = json("unit 9210 --pages 40 --videos 1 --template 12=3");
         QVERIFY(unit["unitPrice"].toInt() == 2012 && unit["parts"]["videos"]["price"].toInt() == 99);
+        const QJsonDocument refused = json("bill none.json");
+        QVERIFY(refused["file"].toString() == "none.json" && refused["line"].isNull() && refused["error"].isString());
         const QJsonDocument shop = json("shop");
         QVERIFY(shop["orderWays"].toArray().size() == 5 && shop["start"]["type"].toInt() == 3);
         const QJsonObject ofTwoBooks = json("types")[2].toObject();

@@ -1,0 +1,108 @@
+#include "host/VelshopCommands.h"
+
+#include "host/VelshopBands.h"
+#include "host/VelshopBill.h"
+#include "host/VelshopList.h"
+#include "host/VelshopOptions.h"
+#include "host/VelshopPrice.h"
+#include "host/VelshopShop.h"
+#include "host/VelshopTypes.h"
+#include "host/VelshopUnit.h"
+
+using namespace VelshopOptions;
+
+namespace {
+
+const QStringList& shared()
+{
+    static const QStringList options{STR_ACCOUNT, STR_JSON, STR_LANGUAGE};
+    return options;
+}
+
+} // namespace
+
+const QVector<VelshopCommand>& VelshopCommands::all()
+{
+    static const QVector<VelshopCommand> commands{
+        {"list",
+         "",
+         {},
+         {STR_GROUP},
+         shared(),
+         OPENS_ACCOUNT,
+         "articles with id, name, shipping group, type, price of a piece, and whether they can be ordered",
+         "Prices are those of the shop's starting choice. The articles are sorted by shipping group, and within it "
+         "stand as in the price list.",
+         "velshop list --group 23",
+         readAndRun(readListArguments, listArticles)},
+        {"price",
+         "ARTICLE COUNT",
+         {},
+         {STR_SOURCE, STR_DELIVERY},
+         shared(),
+         OPENS_ACCOUNT,
+         "what so many pieces cost, with the discount model, level and band of each line",
+         "Where one half of the order way is not named, that of the shop's starting choice is taken.",
+         "velshop price 131 120 --source CD",
+         readAndRun(readPriceArguments, priceArticle)},
+        {"bands",
+         "GROUP",
+         {},
+         {},
+         shared(),
+         OPENS_ACCOUNT,
+         "the discount bands of a shipping group, with the price of each product in each band",
+         "Bands and prices are those of the shop's starting choice.",
+         "velshop bands 1",
+         readAndRun(readBandsArguments, showBands)},
+        {"unit",
+         "ARTICLE",
+         {STR_PAGES},
+         {STR_MAPS, STR_VIDEOS, STR_TEMPLATE},
+         shared(),
+         OPENS_ACCOUNT,
+         "the unit price of a composed book or calendar, part by part",
+         "Each page beyond the least, each map, video and template costs an add-on of the product.",
+         "velshop unit 9210 --pages 40 --videos 1 --template 12=3",
+         readAndRun(readUnitArguments, priceUnit)},
+        {"bill",
+         "CART",
+         {},
+         {STR_HTML, STR_DISCOUNTS, STR_ORDER_TEXT},
+         shared(),
+         OPENS_ACCOUNT,
+         "the bills of a cart, one for each shipping group, and the order's totals",
+         "The cart is a JSON file such as carts/showcase.json of the sample shop.",
+         "velshop bill cart.json --html bill.html",
+         readAndRun(readBillArguments, billCart)},
+        {"shop",
+         "",
+         {},
+         {},
+         shared(),
+         OPENS_ACCOUNT,
+         "the conditions: order ways, payments, currencies, shipping groups and the like",
+         "Everything that the ordering details say, and whether the price list is older than its shipping groups.",
+         "velshop shop --account shop-small",
+         justRun(showShop)},
+        {"types",
+         "",
+         {},
+         {},
+         shared(),
+         OPENS_ACCOUNT,
+         "product types with their products, scales and page ranges",
+         "The types are those of the products that a customer composes: books, calendars, cards and gifts.",
+         "velshop types --json",
+         justRun(listTypes)},
+    };
+    return commands;
+}
+
+const VelshopCommand* VelshopCommands::find(const QString& theName)
+{
+    for (const VelshopCommand& command : all())
+        if (theName == QLatin1String(command.myName))
+            return &command;
+    return nullptr;
+}

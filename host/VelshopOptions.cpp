@@ -1,0 +1,44 @@
+#include "host/VelshopOptions.h"
+
+#include <algorithm>
+
+const QVector<VelshopOption>& VelshopOptions::all()
+{
+    static const QVector<VelshopOption> options{
+        {STR_HELP, QString(), QStringLiteral("Print this help; behind a command that of the command.")},
+        {STR_VERSION, QString(), QStringLiteral("Print the version.")},
+        {STR_ACCOUNT, QStringLiteral("DIR"),
+         QStringLiteral("Folder of the key account: pricelist.xml, orderingdetails.xml, currencies.xml, and where it "
+                        "has them appearance.xml and icons/payment/filenames.xml. The sample shop by default.")},
+        {STR_JSON, QString(), QStringLiteral("Print JSON, errors included.")},
+        {STR_LANGUAGE, QStringLiteral("de|en"), QStringLiteral("Language of the customer's texts: de by default.")},
+        {STR_GROUP, QStringLiteral("ID"), QStringLiteral("This shipping group only.")},
+        {STR_SOURCE, QStringLiteral("NET|CD|KIOSK"),
+         QStringLiteral("How the order comes in; the shop's starting choice by default.")},
+        {STR_DELIVERY, QStringLiteral("POS|MAIL|ONSITE"),
+         QStringLiteral("How the goods go out; a kiosk goes with ONSITE alone.")},
+        {STR_PAGES, QStringLiteral("N"), QStringLiteral("Pages of the composed product.")},
+        {STR_MAPS, QStringLiteral("N"), QStringLiteral("Areas with a map.")},
+        {STR_VIDEOS, QStringLiteral("N"), QStringLiteral("Areas with a video.")},
+        {STR_TEMPLATE, QStringLiteral("CLASS=N"), QStringLiteral("Uses of templates of a price class."), true},
+        {STR_HTML, QStringLiteral("FILE"), QStringLiteral("Write the same as a page that can be printed.")},
+        {STR_DISCOUNTS, QStringLiteral("FILE"), QStringLiteral("Write the description of the discounts as XML.")},
+        {STR_ORDER_TEXT, QString(), QStringLiteral("Print the order-text lines of each product, too.")},
+    };
+    return options;
+}
+
+const VelshopOption& VelshopOptions::option(const QString& theName)
+{
+    const QVector<VelshopOption>& options = all();
+    const auto found = std::find_if(options.cbegin(), options.cend(),
+                                    [&](const VelshopOption& theOption) { return theOption.myName == theName; });
+    Q_ASSERT(found != options.cend());
+    return *found;
+}
+
+QString VelshopOptions::usage(const VelshopOption& theOption)
+{
+    const QString name = QStringLiteral("--") + theOption.myName;
+    return theOption.myValue.isEmpty() ? name : name + QLatin1Char(' ') + theOption.myValue;
+}
