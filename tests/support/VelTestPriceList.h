@@ -31,7 +31,8 @@ inline QString articlesOf(const VelTarmBillPositionList& thePositions)
 }
 
 /// Lets the registry load a price list, written as one line for each entry: tag and attributes | prices as in priced()
-/// | attributes of each price | order-text head and line | linked articles. Cells at the end may be left out.
+/// | attributes of each price | order-text head and line | linked articles | express types by mail order. Cells at the
+/// end may be left out.
 inline void loadPriceList(const TestAccount& theAccount, const char* theLines)
 {
     QMap<QString, QString> sections;
@@ -42,10 +43,13 @@ inline void loadPriceList(const TestAccount& theAccount, const char* theLines)
                                .arg(cell(3).section(' ', 0, 0), cell(3).section(' ', 1));
         for (const QString& id : cell(4).split(' ', Qt::SkipEmptyParts))
             children += "<linked_article id='" + id + "'/>";
+        children += "</linked_articles><shipping_times>";
+        for (const QString& type : cell(5).split(' ', Qt::SkipEmptyParts))
+            children += "<shipping_time days='3' delivery_type='1' express='" + type + "'/>";
         QString entry;
         QTextStream stream(&entry);
         priced(cell(1), tag, cell(2)).save(stream, -1);
-        sections[tag] += entry.replace(0, tag.size() + 2, "<" + cell(0) + ">" + children + "</linked_articles>");
+        sections[tag] += entry.replace(0, tag.size() + 2, "<" + cell(0) + ">" + children + "</shipping_times>");
     }
     QString document;
     for (auto section = sections.cbegin(); section != sections.cend(); ++section)
