@@ -3,16 +3,6 @@
 
 namespace {
 
-/// Each position as article, model, level, items, price, units, whether it is a package.
-QString positionsOf(const VelTarmBill& theBill)
-{
-    QStringList texts;
-    for (const VelTarmBillPositionAbstract* p : theBill.orderPositions())
-        texts.append(joined({p->product()->articleID(), p->discountModel(), p->discountLevel(), p->countItems(),
-                             p->unitPrice(), p->unitCount(), p->isPackage()}));
-    return texts.join("; ");
-}
-
 /// What a description of so many pieces writes, as type/level/price/base transfer/unit transfer.
 QString described(VelTarmBill& theBill, const VelProductAbstract* theProduct, int theCount, bool theWithType = true)
 {
@@ -67,50 +57,6 @@ private slots:
         QCOMPARE(cart.items(), (QMap<VelProductAbstract*, int>{{product(1), 0}, {product(3), 22}, {product(5), 3}}));
     }
 
-    void amounts_data()
-    {
-        // cost, count, transfer as fee, charge, pure price and unit, total, cheapest
-        readTable(R"(
-            row                         | group | cart     | amounts                           | valid
-            nothing                     | 1     |          | 0 0 0 0 0 0 0 0                   | yes
-            an add-on doesn't count     | 1     | 1x9 11x9 | 900 9 300 300 300 400 1200 20     | yes
-            model 2                     | 3     | 1x3 2x2  | 2300 5 750 750 500 250 3050 100   | yes
-            free by a package           | 1     | 1x1 3x3  | 300 4 0 300 0 0 300 100           | yes
-            transfer without a price    | 5     | 1x2      | 200 2 -1 -1 -1 50 199 100         | yes
-            product without a price     | 1     | 5x2 1x1  | 100 1 300 300 300 0 400 0         | no
-        )");
-    }
-
-    void amounts()
-    {
-        const VelTarmBill bill = ::bill(number("group"), cell("cart"));
-        QCOMPARE(
-            joined({bill.totalItemCost(PRODUCT_GROUP_ALL), bill.totalItemCount(PRODUCT_GROUP_ALL), bill.transferFee(),
-                    bill.priceOfTransfer(nullptr), bill.priceOfTransfer(), bill.priceOfUnitTransfer(),
-                    bill.totalFinalCostWithoutCoupon(), bill.unitPriceOfCheapestArticle()}),
-            cell("amounts"));
-        QCOMPARE(bill.isValid(), answer("valid"));
-    }
-
-    void totals()
-    {
-        const VelTarmBill bill = ::bill(1, "2x1", ExpressableType_EXPRESS_1);
-        QCOMPARE(bill.totalFinalCost(-400), 1000 + 300 + 50 - 400 + 200); // items, transfer, payment, coupon, express
-        QCOMPARE(bill.totalFinalCost(-1299), 251); // as long as a cent is left, paying costs, too
-        QCOMPARE(bill.totalFinalCost(-1300), 200); // express is paid in full
-    }
-
-    /// The sums are those of the bill that is asked, the positions go to the bill that is named.
-    void positionsOfFees()
-    {
-        const VelTarmBill asked = bill(1, "2x2 1x9", ExpressableType_EXPRESS_1);
-        VelTarmBill named = bill(4, "1x1");
-        QCOMPARE(asked.priceOfTransfer(&named), 200);
-        QCOMPARE(asked.priceOfExpressAgio(&named), 200); // posters aren't counted
-        QCOMPARE(positionsOf(named), "1 1 0 1 100 1 0; 501 4 1 1 200 1 0; 701 7 0 1 200 1 0");
-        QCOMPARE(named.totalItemCost(PRODUCT_GROUP_ALL), 100); // a fee is of no group
-    }
-
     void filters()
     {
         VelTarmBill bill = ::bill(1, "3x3 1x1");
@@ -163,33 +109,6 @@ private slots:
         copy.filterOutPackages();
         QVERIFY(package && package->unitPrice() == 900);
         QCOMPARE(articlesOf(copy.orderPositions()), "1 3 5 2");
-    }
-
-    void descriptions_data()
-    {
-        readTable(R"(
-            row                        | group | cart    | article | counts | descriptions
-            bulk                       | 1     | 1x5     | 1       | 5      | B/1/400//
-            package of a level         | 1     | 4x4     | 4       | 1 1 2  | L/1/1000// L/1/0// L/1/0//
-            its rest                   | 1     | 4x8     | 4       | 5 2 1  | L/1/1000// l/2/180// l/2/90//
-            package, free transfer     | 1     | 3x25    | 3       | 20 5   | P/2/0// p/3/0//
-            highest base, one by one   | 3     | 1x3 2x2 | 2       | 1 1    | -/0/1000/500/ -/0/1000//100
-            highest base, together     | 3     | 1x3 2x2 | 2       | 2      | -/0/2000/500/100
-            lower base                 | 3     | 1x3 2x2 | 1       | 1 2    | -/0/100//50 -/0/200//50
-        )");
-    }
-
-    void descriptions()
-    {
-        VelTarmBill bill = ::bill(number("group"), cell("cart"), ExpressableType_EXPRESS_1);
-        bill.initDiscountInfoForXTCI();
-        VelProductAbstract* article = product(number("article"));
-        QStringList descriptions;
-        for (const QString& count : cell("counts").split(' ')) {
-            descriptions.append(described(bill, article, count.toInt()));
-        }
-        QCOMPARE(descriptions.join(' '), cell("descriptions"));
-        QVERIFY(bill.discountInformationList(article)->isEmpty());
     }
 
     void discountGroups()

@@ -68,38 +68,6 @@ private slots:
         QCOMPARE(messages.texts().size(), 3 * number("warnings")); // by the parts, by the sum, and by the question
     }
 
-    void counts()
-    {
-        const VelProductPriceCalculator calculator(nullptr, 20, 0, 0, contents("1bx5 1x2 2ax5 01x7 1cx-4"));
-        QCOMPARE(calculator.productName(), "unknown product");
-        QCOMPARE(calculator.correctedAdditionalContent(), contents("1bx1 1x0 2ax5 01x7 1cx-1"));
-        QCOMPARE(calculator.countAdditionalContents(), 12);
-    }
-
-    void messages()
-    {
-        const MessageCatcher messages;
-        VelProductPriceCalculator(product(9141), 0, 1, 1, contents("2%1x1")).unitPrice();
-        const QString head("VelProductPriceCalculator::createPriceDescription(");
-        QCOMPARE(messages.texts().mid(messages.texts().size() - 3),
-                 (QStringList{head + "VelTemplateList) -- Content nicht spezifiziert, obwohl er es sein sollte: bloß, "
-                                     "priceclass 2%1",
-                              head + "VelAreaLocrMapList) -- Locr Karten Zuschlagsartikel nicht gefunden. bloß",
-                              head + "VelAreaLocrMapList) -- Video Zuschlagsartikel nicht gefunden. bloß"}));
-    }
-
-    /// Without a key, prices are those of the global status.
-    void globalKey()
-    {
-        const MessageCatcher ignored; // there are no ordering details
-        VelTarmGlobalStatus::instance()->setOrderSource(VelOrderSource::cdPointOfSale());
-        const VelProductPriceCalculator book(product(9231), 4, 1, 1, contents("2ax1"));
-        QCOMPARE(joined({book.priceOfProduct(), book.priceOfPagePackages(), book.priceOfContents(),
-                         book.priceOfLocrAreas(), book.priceOfVideoAreas(), book.unitPrice()}),
-                 "900 60 90 150 70 1270");
-        QVERIFY(book.isOrderable());
-    }
-
 private:
     TestAccount myAccount;
 };

@@ -4,15 +4,6 @@
 
 namespace {
 
-using Rule = int (VelTarmPriceInfo::*)(const VelTarmPriceKey&, int, VelTarmBillPositionList*) const;
-
-const QMap<QString, Rule> RULES = {{"bulk", &VelTarmPriceInfo::priceBulk},
-                                   {"package", &VelTarmPriceInfo::pricePackage},
-                                   {"inherited", &VelTarmPriceInfo::priceInheritedDiscount},
-                                   {"express", &VelTarmPriceInfo::priceExpressFee},
-                                   {"transfer", &VelTarmPriceInfo::priceBulkTransfer},
-                                   {"bill sum", &VelTarmPriceInfo::priceBillingSumTransfer}};
-
 QStringList described(const VelTarmBillPositionList& thePositions)
 {
     QStringList texts;
@@ -64,44 +55,6 @@ private slots:
             QCOMPARE(described(bill.orderPositions()).join("; "), cell("lines"));
             QCOMPARE(product.priceFor(key, number("count"), 4711, nullptr, nullptr), number("price"));
         }
-    }
-
-    void rules_data()
-    {
-        // Packages go by the key's model, inherited levels by its level, too; all others by the order source alone.
-        readTable(R"(
-            row                    | rule      | level | model | quantity | price | lines
-            bulk                   | bulk      | 5     | 3     | 10       | 800   | 10 1 1 80 10 1 -1
-            package                | package   | 5     | 3     | 25       | 1100  | 20 3 2 900 1 20 -1; 5 3 3 40 5 1 -1
-            no package             | package   | 5     | 3     | 0        | 0     |
-            inherited              | inherited | 9     | 8     | 3        | 120   | 3 8 1 40 3 1 -1
-            nothing to inherit     | inherited | -1    | 8     | 3        | -1    | 3 8 -1 -1 3 1 -1
-            express, one fee       | express   | 5     | 3     | 6        | 700   | 1 7 2 700 1 1 -1
-            transfer by count      | transfer  | 5     | 3     | 10       | 590   | 1 4 1 590 1 1 -1
-            bill sum               | bill sum  | 5     | 3     | 5000     | 0     | 1 5 1 0 1 1 -1
-            below its bands        | bill sum  | 5     | 3     | 4999     | 490   | 1 4 0 490 1 1 -1
-        )");
-    }
-
-    void rules()
-    {
-        const QDomElement root = priced("0=100 1@10=80 P1@1=500 P2@11=900 p3@21=40 I0=50 I1=40 F0=490 F1@10=590 "
-                                        "Z1@5000=0 X0=300 X2@5=700");
-        VelProduct product(root);
-        const VelTarmPriceInfo info(&product, root);
-        const Rule rule = RULES.value(cell("rule"));
-        const VelTarmPriceKey key = priceKey(number("level"), number("model"));
-        QCOMPARE((info.*rule)(key, number("quantity"), nullptr), number("price"));
-
-        VelTarmBillPositionList positions;
-        for (int call = 0; call < 2; ++call)
-            QCOMPARE((info.*rule)(key, number("quantity"), &positions), number("price"));
-        const QStringList lines = cell("lines").split("; ", Qt::SkipEmptyParts);
-        QCOMPARE(described(positions), lines + lines); // appended, whatever is there
-        for (const VelTarmBillPositionAbstract* position : positions)
-            QVERIFY(position->product() == &product && !position->parent());
-        qDeleteAll(positions); // they are the caller's
-        QVERIFY(key == priceKey(number("level"), number("model")));
     }
 
     void offers_data()

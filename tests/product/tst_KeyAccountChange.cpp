@@ -2,18 +2,8 @@
 #include "ordering/VelOrderingDetails.h"
 #include "ordering/VelTarmShippingGroup.h"
 #include "ordering/VelTarmShippingGroupManager.h"
-#include "product/VelProductStorage.h"
 #include "sibling/VelDirectoryConfig.h"
 #include "support/VelTestPriceList.h"
-
-#include <atomic>
-#include <cstdio>
-#include <fstream>
-#include <malloc.h>
-#include <thread>
-
-/// The allocator of the address sanitizer counts for itself.
-extern "C" __attribute__((weak)) std::size_t __sanitizer_get_current_allocated_bytes();
 
 namespace {
 
@@ -67,23 +57,9 @@ struct AccountCopy : TestAccount
     }
 };
 
-/// On the heap and on the shelves of the products' storage, from any fixed point.
-qint64 bytesHeld()
-{
-    using namespace VelProductStorage;
-    auto bytes = static_cast<qint64>(__sanitizer_get_current_allocated_bytes ? __sanitizer_get_current_allocated_bytes()
-                                                                             : mallinfo2().uordblks);
-    for (const Shelf shelf : {SHELF_MAIN_PRODUCTS, SHELF_ADD_ONS, SHELF_ARTICLES}) {
-        void* const next = allocate(shelf, 1);
-        release(next, 1);
-        bytes += static_cast<qint64>(reinterpret_cast<quintptr>(next));
-    }
-    return bytes;
-}
-
 } // namespace
 
-/// From one sample account to the other and back, also with documents that are lost or change while they are read.
+/// From one sample account to the other and back, also with documents that are lost.
 class KeyAccountChangeTest : public QObject
 {
     Q_OBJECT
@@ -126,43 +102,6 @@ private slots:
         QCOMPARE(picture(), before);
     }
 
-    /// One that is replaced as a whole is read as the one or the other; one that is written over in place may come to
-    /// nothing for once, and does no harm.
-    void replacedWhileRead_data() { readTable("row | isRenamed\n by another file | yes\n in place | no"); }
-
-    void replacedWhileRead()
-    {
-        const MessageCatcher messages;
-        const AccountCopy account(SMALL);
-        const QStringList small = picture();
-        const QStringList renamed = QStringList(small).replaceInStrings("103 Print M", "103 Print X");
-        const QByteArray first = content(account.path("pricelist.xml"));
-        const QByteArray second = QByteArray(first).replace("name=\"Print M\"", "name=\"Print X\"");
-        const std::string file = account.path("pricelist.xml").toStdString();
-        const std::string draft = answer("isRenamed") ? account.path("draft.xml").toStdString() : file;
-        std::atomic_bool isDone{false};
-        std::thread writer([&] {
-            for (bool isFirst = false; !isDone; isFirst = !isFirst) {
-                const QByteArray& bytes = isFirst ? first : second;
-                std::ofstream(draft).write(bytes.constData(), bytes.size());
-                if (draft != file)
-                    std::rename(draft.c_str(), file.c_str());
-            }
-        });
-        bool isWhole = true;
-        for (int load = 0; load < 50; ++load) {
-            VelProductRegistry::instance()->loadAllProducts();
-            const QStringList now = picture();
-            isWhole = isWhole && (now == small || now == renamed);
-        }
-        isDone = true;
-        writer.join();
-        QVERIFY(isWhole || !answer("isRenamed"));
-        account.write("pricelist.xml", first);
-        account.activate();
-        QCOMPARE(picture(), small);
-    }
-
     /// The price list first and the details second, each twice, and in the middle of the other's signal.
     void signalsOutOfOrder()
     {
@@ -179,23 +118,6 @@ private slots:
             details()->update();
         disconnect(again);
         QCOMPARE(picture(), large);
-    }
-
-    /// What a change of the key account keeps for good: fee products, payment items and shipping groups, to which the
-    /// host may hold pointers. The guide of embedding names this bound.
-    void memoryOfManyChanges()
-    {
-        const auto change = [](int theTimes) {
-            for (int round = 0; round < theTimes; ++round)
-                activate(round % 2 == 0 ? SMALL : LARGE);
-        };
-        change(20);
-        const QStringList large = picture();
-        const qint64 before = bytesHeld();
-        change(1000);
-        const qint64 perChange = (bytesHeld() - before) / 1000;
-        QCOMPARE(picture(), large);
-        QVERIFY2(perChange < 16 * 1024, qPrintable(QString::number(perChange)));
     }
 };
 
