@@ -22,14 +22,13 @@ void use(const TestAccount& theAccount, QString theCurrencies, const QString& th
 }
 
 /// The configuration lives once in a process, so other accounts are tried in child processes, which run this instead of
-/// the tests: the texts of the account of two documents on the standard output.
+/// the tests: the texts of the account in the working directory on the standard output.
 void printTexts()
 {
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) != "--print")
+    if (QCoreApplication::arguments().value(1) != "--print")
         return;
-    const TestAccount account;
-    use(account, arguments.value(2), arguments.value(3));
+    VelDirectoryConfig::instance()->setConfigurationDirectory(QDir::currentPath());
+    VelKeyAccount::instance()->activate(QDir::current());
     const VelCurrencyConfig* config = VelCurrencyConfig::instance();
     const QStringList texts{config->fullText(999, true, false, false), config->fullText(-999, true, false, true),
                             config->text(0, true), config->currencySymbol(true, true)};
@@ -40,7 +39,7 @@ Q_COREAPP_STARTUP_FUNCTION(printTexts)
 
 } // namespace
 
-class TestCurrency : public QObject
+class CurrencyTest : public QObject
 {
     Q_OBJECT
 
@@ -85,8 +84,11 @@ private slots:
 
     void accounts()
     {
+        const TestAccount account;
+        use(account, cell("currencies"), cell("details"));
         QProcess child;
-        child.start(QCoreApplication::applicationFilePath(), {"--print", cell("currencies"), cell("details")});
+        child.setWorkingDirectory(account.path()); // so that nothing stays behind, although the child ends at once
+        child.start(QCoreApplication::applicationFilePath(), {"--print"});
         QVERIFY(child.waitForFinished());
         QCOMPARE(QString::fromUtf8(child.readAllStandardOutput()), cell("expected"));
         QCOMPARE(child.exitStatus(), cell("expected").isEmpty() ? QProcess::CrashExit : QProcess::NormalExit);
@@ -114,5 +116,5 @@ private slots:
     }
 };
 
-VEL_TEST_MAIN(TestCurrency)
+VEL_TEST_MAIN(CurrencyTest)
 #include "tst_Currency.moc"
