@@ -20,7 +20,7 @@ QString geometryOf(const VelTarmArticle& theArticle)
 
 } // namespace
 
-class TestArticle : public QObject
+class ArticleTest : public QObject
 {
     Q_OBJECT
 
@@ -113,5 +113,5 @@ private slots:
     }
 };
 
-VEL_TEST_MAIN(TestArticle)
+VEL_TEST_MAIN(ArticleTest)
 #include "tst_Article.moc"

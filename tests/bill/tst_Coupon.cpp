@@ -34,34 +34,43 @@ private slots:
         myAccount.activateWithDetails("<o><groups><group id='3' name='Prints'/></groups></o>");
         VelOrderingDetails::instance(); // which brings the shipping groups
         loadPriceList(myAccount, R"(
-            article id='1' arrangement='trivial' group='3' name='x' editor_name='9x13 %2' | 0=333 | | [P] SALESLINE=3
-            article id='2' arrangement='trivial' editor_name='Poster' | 0=250
-            article id='3' arrangement='trivial' group='3' editor_name='9x13 %2' | 0=20 P1@10=100 P2@20=150
-            add_on id='11' product_class='A' editor_name='no type' | | | [FRAME]
-            add_on id='12' product_class='A' editor_name='Buch' | | | [FRAME] TYPE=ALB9
-            transfer id='500' group='3' name='Versand' editor_name='x' | 0=120
+            article id='1' arrangement='trivial' group='3' name='x' editor_name='9x13 %2' | prices 0=333 | text [P] SALESLINE=3
+            article id='2' arrangement='trivial' editor_name='Poster' | prices 0=250
+            article id='3' arrangement='trivial' group='3' editor_name='9x13 %2' | prices 0=20 P1@10=100 P2@20=150
+            add_on id='11' product_class='A' editor_name='no type' | text [FRAME]
+            add_on id='12' product_class='A' editor_name='Buch' | text [FRAME] TYPE=ALB9
+            transfer id='500' group='3' name='Versand' editor_name='x' | prices 0=120
         )");
     }
 
     void reading_data()
     {
         readTable(R"(
-            row           | attributes                                              | expected
-            value         | type='value' price='-7' campaign_no='c' minimum_price='1' free_quantity='2' minimum_quantity='3' shareable='true' | 1/-7/0/1/2/3/1 c
-            percent       | type=' PerCent ' price=' -7 ' campaign_no=''            | 2/0/-7/0/0/0/0
-            combined      | type='value,percent' price='-7' campaign_no='c'         | 3/0/0/0/0/0/0 c
-            unknown word  | type='values' price='-7' campaign_no='c'                | 0/0/0/0/0/0/0 invalid
-            no campaign   | type='value' price='-7'                                 | 1/-7/0/0/0/0/0 invalid
+            row          | attributes                                              | type | value | percent | campaign
+            value        | type='value' price='-7' campaign_no='c'                 | 1    | -7    | 0       | c
+            percent      | type=' PerCent ' price=' -7 ' campaign_no=''            | 2    | 0     | -7      |
+            combined     | type='value,percent' price='-7' campaign_no='c'         | 3    | 0     | 0       | c
+            unknown word | type='values' price='-7' campaign_no='c'                | 0    | 0     | 0       | invalid
+            no campaign  | type='value' price='-7'                                 | 1    | -7    | 0       | invalid
         )");
     }
 
     void reading()
     {
         const VelCoupon read = coupon(cell("attributes"));
-        const QString fields = QString::asprintf("%d/%d/%d/%d/%d/%d/%d ", read.type(), read.maximumDiscountValue(),
-                                                 read.discountPercentage(), read.minimumSpentValue(),
-                                                 read.freeQuantity(), read.minimumQuantity(), read.isShareable());
-        QCOMPARE((fields + (read.isValid() ? read.campaign() : "invalid")).trimmed(), cell("expected"));
+        QCOMPARE(int(read.type()), number("type"));
+        QCOMPARE(read.maximumDiscountValue(), number("value"));
+        QCOMPARE(read.discountPercentage(), number("percent"));
+        QCOMPARE(read.isValid() ? read.campaign() : "invalid", cell("campaign"));
+    }
+
+    void conditions()
+    {
+        const VelCoupon read = coupon("minimum_price='1' free_quantity='2' minimum_quantity='3' shareable='true'");
+        QCOMPARE(read.minimumSpentValue(), 1);
+        QCOMPARE(read.freeQuantity(), 2);
+        QCOMPARE(read.minimumQuantity(), 3);
+        QVERIFY(read.isShareable() && !coupon("").isShareable());
     }
 
     void readsTwice()

@@ -69,27 +69,27 @@ private slots:
             <groups><group id='1'/><group id='2'/><group id='3'/><group id='4' max_order_items='30'/></groups></o>)");
         VelOrderingDetails::instance();
         VelKeyAccount::instance()->setShippingGroupEnabled(5, false);
-        loadPriceList(myAccount, "article id='9' group='1' arrangement='trivial' | 0=10");
+        loadPriceList(myAccount, "article id='9' group='1' arrangement='trivial' | prices 0=10");
         loadPriceList(myAccount, R"(
-            article id='1' group='1' arrangement='trivial' | 0=5 P1@2=100 P2@101=200 p4@121=10
-            article id='2' group='1' arrangement='gift' | 0=1000 | | [CUP] TYPE=ALB8 | | 0 1
-            article id='3' group='1' arrangement='trivial' | 0=-1
-            article id='4' group='1' arrangement='gift' | 0=900 | | [CUP] TYPE=ALB6 | | 0
-            article id='5' group='1' arrangement='trivial' | 0=100
-            article id='20' group='2' arrangement='trivial' | 0=2000000000
-            article id='21' group='2' arrangement='trivial' | 0=5885
-            article id='22' group='2' arrangement='trivial' | 0=1 | transfer_unit_price='2000000000'
-            article id='30' group='3' arrangement='gift' | 0=500 | | [CUP] TYPE=ALB8 | | 0 1
-            article id='40' group='4' arrangement='trivial' | 0=50
-            article id='50' group='5' arrangement='trivial' | 0=50
-            add_on id='41' group='4' product_class='A' | 0=5 | | [A] | 40
-            transfer id='501' group='1' | 0=300
-            transfer id='502' group='2' model='2' | 0=0
+            article id='1' group='1' arrangement='trivial' | prices 0=5 P1@2=100 P2@101=200 p4@121=10
+            article id='2' group='1' arrangement='gift' | prices 0=1000 | text [CUP] TYPE=ALB8 | express 0 1
+            article id='3' group='1' arrangement='trivial' | prices 0=-1
+            article id='4' group='1' arrangement='gift' | prices 0=900 | text [CUP] TYPE=ALB6 | express 0
+            article id='5' group='1' arrangement='trivial' | prices 0=100
+            article id='20' group='2' arrangement='trivial' | prices 0=2000000000
+            article id='21' group='2' arrangement='trivial' | prices 0=5885
+            article id='22' group='2' arrangement='trivial' | prices 0=1 | with transfer_unit_price='2000000000'
+            article id='30' group='3' arrangement='gift' | prices 0=500 | text [CUP] TYPE=ALB8 | express 0 1
+            article id='40' group='4' arrangement='trivial' | prices 0=50
+            article id='50' group='5' arrangement='trivial' | prices 0=50
+            add_on id='41' group='4' product_class='A' | prices 0=5 | text [A] | links 40
+            transfer id='501' group='1' | prices 0=300
+            transfer id='502' group='2' model='2' | prices 0=0
             transfer id='503' group='3'
-            paymethod_fee id='600' pay_method_id='3' | 0=50
-            paymethod_fee id='601' pay_method_id='8' | 0=-1
-            express_fee id='701' group='1' express='1' | 0=490
-            express_fee id='703' group='3' express='1' | 0=-1
+            paymethod_fee id='600' pay_method_id='3' | prices 0=50
+            paymethod_fee id='601' pay_method_id='8' | prices 0=-1
+            express_fee id='701' group='1' express='1' | prices 0=490
+            express_fee id='703' group='3' express='1' | prices 0=-1
         )");
     }
 

@@ -15,32 +15,32 @@
 namespace {
 
 const char* const SHOP = R"(
-    article id='1' name='Print' group='23' arrangement='trivial' | | | [PRINT] TYPE=FOTO
-    article id='2' name='Print' group='24' arrangement='trivial' | | | [PRINT] BORDER=1
-    article id='5' arrangement='trivial' | | | [FRAME]
-    article id='40' name='Mug' arrangement='gift' | | | [G] TYPE=CAL6
-    article id='41' name='20x30' group='13' arrangement='gift' | | | [G] TYPE=20x30AG
-    article id='42' name='Canvas' arrangement='gift' | | | [G] TYPE=ALB11
-    article id='8026' arrangement='calendar' | | | [C] TYPE=CAL6
-    article id='9141' arrangement='photobook' | | | [B] TYPE=ALB11
-    article id='9181' arrangement='photobook' | | | [B] TYPE=ALB8
-    article id='9210' arrangement='photobook' | | | [B] TYPE=ALB8
-    article id='9171' arrangement='photobook' | | | [B] TYPE=alb9
-    article id='31' name='10x15' group='13' arrangement='trivial' | | | ALB9
-    article id='32' name='9x13' group='13' arrangement='trivial' | | | ALBUM
-    add_on id='60' name='60' product_class='WH2' group='13' | | | | 1
-    add_on id='61' name='61' product_class='WH2' | | | | 1
-    add_on id='62' name='62' product_class='VDO1' | | | | 9171
-    add_on id='63' name='63' product_class='X' | | | [FRAME] | 2
-    add_on id='64' name='64' product_class='X' | | | [FRAME] | 1
-    add_on id='65' name='65' product_class='X' | | | [PAGES] | 2
-    add_on id='66' name='66' product_class='X' | | | [PAGES] | 9171)";
+    article id='1' name='Print' group='23' arrangement='trivial' | text [PRINT] TYPE=FOTO
+    article id='2' name='Print' group='24' arrangement='trivial' | text [PRINT] BORDER=1
+    article id='5' arrangement='trivial' | text [FRAME]
+    article id='40' name='Mug' arrangement='gift' | text [G] TYPE=CAL6
+    article id='41' name='20x30' group='13' arrangement='gift' | text [G] TYPE=20x30AG
+    article id='42' name='Canvas' arrangement='gift' | text [G] TYPE=ALB11
+    article id='8026' arrangement='calendar' | text [C] TYPE=CAL6
+    article id='9141' arrangement='photobook' | text [B] TYPE=ALB11
+    article id='9181' arrangement='photobook' | text [B] TYPE=ALB8
+    article id='9210' arrangement='photobook' | text [B] TYPE=ALB8
+    article id='9171' arrangement='photobook' | text [B] TYPE=alb9
+    article id='31' name='10x15' group='13' arrangement='trivial' | text ALB9
+    article id='32' name='9x13' group='13' arrangement='trivial' | text ALBUM
+    add_on id='60' name='60' product_class='WH2' group='13' | links 1
+    add_on id='61' name='61' product_class='WH2' | links 1
+    add_on id='62' name='62' product_class='VDO1' | links 9171
+    add_on id='63' name='63' product_class='X' | text [FRAME] | links 2
+    add_on id='64' name='64' product_class='X' | text [FRAME] | links 1
+    add_on id='65' name='65' product_class='X' | text [PAGES] | links 2
+    add_on id='66' name='66' product_class='X' | text [PAGES] | links 9171)";
 
 /// The first load has two elements more under another tag, and one that the second drops.
 const char* const FIRST_TAGS = R"(
     article id='90' name='90' arrangement='trivial' group='9'
-    add_on id='91' product_class='K' | | | | 1
-    article id='92' name='Alt' arrangement='trivial' | | | [OLD] TYPE=OLD)";
+    add_on id='91' product_class='K' | links 1
+    article id='92' name='Alt' arrangement='trivial' | text [OLD] TYPE=OLD)";
 const char* const SECOND_TAGS = R"(
     add_on id='90' group='9'
     article id='91' name='Gift' arrangement='gift' group='8')";
@@ -84,14 +84,14 @@ void row(const char* theName, Query theQuery, const char* theExpected)
 Q_DECLARE_METATYPE(Query)
 
 /// Each test has a registry of its own beside the application's.
-class TestProductRegistry : public QObject
+class ProductRegistryTest : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        loadPriceList(myAccount, "nothing");
+        loadPriceList(myAccount, "");
         myRegistry.reset(new VelProductRegistry);
     }
 
@@ -140,7 +140,7 @@ private slots:
     void refusedProducts()
     {
         const char* const refused =
-            "article id='1' arrangement='gift' | | | [G] TYPE=WALL\nadd_on id='3' product_class='11'";
+            "article id='1' arrangement='gift' | text [G] TYPE=WALL\nadd_on id='3' product_class='11'";
         const MessageCatcher messages;
         load(refused);
         QVERIFY(myRegistry->productList().isEmpty());
@@ -187,9 +187,9 @@ private slots:
     void expressFees()
     {
         load(R"(
-            express_fee id='90' group='4' express='2' | 0=990
-            express_fee id='91' group='4' express='1' | 0=1
-            express_fee id='92' group='4' express='0' | 0=0
+            express_fee id='90' group='4' express='2' | prices 0=990
+            express_fee id='91' group='4' express='1' | prices 0=1
+            express_fee id='92' group='4' express='0' | prices 0=0
             express_fee id='93' group='4'
             express_fee id='94' express='1,2'
             express_fee id='96' group='5' express='1')");
@@ -200,7 +200,7 @@ private slots:
         QCOMPARE(myRegistry->supportedExpressTypes(4, ANY),
                  (QList<VelExpressType>{ExpressableType_EXPRESS_1, ExpressableType_EXPRESS_2}));
         QVERIFY(myRegistry->supportedExpressTypes(5, ANY).isEmpty() && myRegistry->containsExpressAgioProducts());
-        load("nothing");
+        load("");
         QVERIFY(myRegistry->expressAgioProducts(4).isEmpty() && !myRegistry->containsExpressAgioProducts());
         QCOMPARE(former->price(ANY, 1, 0), 1); // still usable
     }
@@ -331,8 +331,8 @@ private slots:
     {
         QVERIFY(!myRegistry->findProductWithOrderTXTType("ALB8")); // which isn't kept
         const VelProductList* list = myRegistry->productsOfType(PRODUCT_TYPE_ALB8);
-        const QString lines = "article id='1' arrangement='gift' | | | [G] TYPE=%1\n"
-                              "article id='2' arrangement='card' | | | [G] TYPE=%2";
+        const QString lines = "article id='1' arrangement='gift' | text [G] TYPE=%1\n"
+                              "article id='2' arrangement='card' | text [G] TYPE=%2";
         load(lines.arg("ALB8", "alb8"));
         VelProductAbstract* former = myRegistry->findProductWithOrderTXTType("ALB8");
         load(lines.arg("ALB9", "ALB8"));
@@ -355,8 +355,9 @@ private slots:
     void discountLimits()
     {
         for (const QString& text : cell("prices").split('/')) {
-            QDomElement element = priced(text, text.startsWith('+') ? "add_on" : "article");
-            element.setAttribute("group", text.startsWith('+') || text.startsWith('*') ? 5 : 4);
+            const bool isMarked = text.startsWith('+') || text.startsWith('*');
+            QDomElement element = priced(isMarked ? text.mid(1) : text, text.startsWith('+') ? "add_on" : "article");
+            element.setAttribute("group", isMarked ? 5 : 4);
             myRegistry->insertProduct(new VelProduct(element));
         }
         QStringList limits;
@@ -386,26 +387,28 @@ private slots:
 
     void books_data()
     {
-        readTable(R"(row                | ids       | type  | valid | pages
-                     page package       | 9221      | ALB13 | yes   | 24 96 2
-                     no package         | 9604      | ALB14 | yes   | 24 24 2
-                     two books          | 9231 9206 | ALB15 | no    | 0 0 0
-                     a calendar's type  | 9205      | CAL6  | no    | 0 0 0)");
+        readTable(R"(row                | ids       | type  | valid | lowest | highest | step
+                     page package       | 9221      | ALB13 | yes   | 24     | 96      | 2
+                     no package         | 9604      | ALB14 | yes   | 24     | 24      | 2
+                     two books          | 9231 9206 | ALB15 | no    | 0      | 0       | 0
+                     a calendar's type  | 9205      | CAL6  | no    | 0      | 0       | 0)");
     }
 
     void books()
     {
-        QByteArray lines = "add_on id='311' product_class='x' | | | [PAGES] | 9221";
+        QString lines = "add_on id='311' product_class='x' | text [PAGES] | links 9221";
         for (const QString& id : cell("ids").split(' '))
-            lines += "\narticle arrangement='photobook' min_pages='24' max_pages='96' page_step='2' id='" +
-                     id.toUtf8() + "' | | | [B] TYPE=" + cell("type").toUtf8();
+            lines += "\narticle arrangement='photobook' min_pages='24' max_pages='96' page_step='2' id='" + id +
+                     "' | text [B] TYPE=" + cell("type");
         loadPriceList(myAccount, lines);
         const VelProductType type(cell("type"));
         QCOMPARE(VelProductRegistryProductChecker().isValid(type), answer("valid"));
-        loadPriceList(myAccount, "nothing"); // the books are found, but not valid any more
+        loadPriceList(myAccount, ""); // the books are found, but not valid any more
         QVERIFY(!VelProductRegistryProductChecker().isValid(type));
         const auto pages = VelPageOrganizationCalculatorTarm().createPageOrganization(type);
-        QCOMPARE(QString::asprintf("%u %u %u", pages.lowest(), pages.highest(), pages.step()), cell("pages"));
+        QCOMPARE(int(pages.lowest()), number("lowest"));
+        QCOMPARE(int(pages.highest()), number("highest"));
+        QCOMPARE(int(pages.step()), number("step"));
     }
 
 private:
@@ -417,7 +420,7 @@ private:
     /// Lets the application's registry load, and the own one.
     void load(const QString& theLines) const
     {
-        loadPriceList(myAccount, theLines.toUtf8());
+        loadPriceList(myAccount, theLines);
         myRegistry->loadAllProducts();
     }
 
@@ -431,5 +434,5 @@ private:
     QScopedPointer<VelProductRegistry> myRegistry;
 };
 
-VEL_TEST_MAIN(TestProductRegistry)
+VEL_TEST_MAIN(ProductRegistryTest)
 #include "tst_ProductRegistry.moc"

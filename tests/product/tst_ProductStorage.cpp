@@ -31,7 +31,7 @@ private slots:
             add_on id='31' product_class='x'
             article id='9' arrangement='trivial'
             article id='8' arrangement='trivial'
-            article id='50' arrangement='gift' | | | [G] TYPE=WALL
+            article id='50' arrangement='gift' | text [G] TYPE=WALL
             article id='7' arrangement='trivial'
         )");
         loadPriceList(myAccount, R"(
@@ -53,8 +53,8 @@ private slots:
                 for (int i = 0; i < 2; ++i)
                     room->append(allocate(shelf, size));
         loadPriceList(myAccount, R"(
-            article id='60' arrangement='trivial' | 0=100 1@2=80
-            article id='61' arrangement='gift' | | | [G] TYPE=WALL
+            article id='60' arrangement='trivial' | prices 0=100 1@2=80
+            article id='61' arrangement='gift' | text [G] TYPE=WALL
         )");
         QCOMPARE(messages.texts().size(), 1);
         QVERIFY(!product(61)); // freed as it came

@@ -6,7 +6,7 @@
 #include "sibling/VelXMLParser.h"
 #include "support/VelTestAccount.h"
 
-class TestSiblingLayer : public QObject
+class SiblingLayerTest : public QObject
 {
     Q_OBJECT
 
@@ -121,5 +121,5 @@ private slots:
     }
 };
 
-VEL_TEST_MAIN(TestSiblingLayer)
+VEL_TEST_MAIN(SiblingLayerTest)
 #include "tst_SiblingLayer.moc"

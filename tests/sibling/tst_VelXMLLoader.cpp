@@ -18,7 +18,7 @@ QByteArray attributes(int theCount)
 
 } // namespace
 
-class TestVelXMLLoader : public QObject
+class VelXMLLoaderTest : public QObject
 {
     Q_OBJECT
 
@@ -114,5 +114,5 @@ private:
     TestAccount myFolder;
 };
 
-VEL_TEST_MAIN(TestVelXMLLoader)
+VEL_TEST_MAIN(VelXMLLoaderTest)
 #include "tst_VelXMLLoader.moc"

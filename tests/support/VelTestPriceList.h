@@ -30,27 +30,39 @@ inline QString articlesOf(const VelTarmBillPositionList& thePositions)
     return joined(ids);
 }
 
-/// Lets the registry load a price list, written as one line for each entry: tag and attributes | prices as in priced()
-/// | attributes of each price | order-text head and line | linked articles | express types by mail order. Cells at the
-/// end may be left out.
-inline void loadPriceList(const TestAccount& theAccount, const char* theLines)
+/// The element of one line of a price list, of which loadPriceList() tells.
+inline QString priceListEntry(const QString& theLine)
+{
+    QMap<QString, QString> parts{{"prices", ""}, {"with", ""}, {"text", ""}, {"links", ""}, {"express", ""}};
+    const QStringList cells = trimmedParts(theLine, '|');
+    for (const QString& cell : cells.mid(1)) {
+        require(parts.contains(cell.section(' ', 0, 0)), cell);
+        parts[cell.section(' ', 0, 0)] = cell.section(' ', 1);
+    }
+    QString children = QString("<order_txt_lines head='%1'><l>%2</l></order_txt_lines><linked_articles>")
+                           .arg(parts["text"].section(' ', 0, 0), parts["text"].section(' ', 1));
+    for (const QString& id : parts["links"].split(' ', Qt::SkipEmptyParts))
+        children += "<linked_article id='" + id + "'/>";
+    children += "</linked_articles><shipping_times>";
+    for (const QString& type : parts["express"].split(' ', Qt::SkipEmptyParts))
+        children += "<shipping_time days='3' delivery_type='1' express='" + type + "'/>";
+    QString entry;
+    QTextStream stream(&entry);
+    const QString tag = cells.first().section(' ', 0, 0);
+    priced(parts["prices"], tag, parts["with"]).save(stream, -1);
+    return entry.replace(0, tag.size() + 2, "<" + cells.first() + ">" + children + "</shipping_times>");
+}
+
+/// Lets the registry load a price list, written as one line for each entry: tag and attributes, and further cells that
+/// begin with their names, as in "article id='1' | prices 0=100 | text [BOOK] TYPE=ALB8". There are prices as in
+/// priced(), with attributes for each of them, the head and a line of the order text, links to articles, and the
+/// express types of the shipping by mail order.
+inline void loadPriceList(const TestAccount& theAccount, const QString& theLines)
 {
     QMap<QString, QString> sections;
-    for (const QString& line : QString::fromUtf8(theLines).trimmed().split('\n')) {
-        const auto cell = [&](int theIndex) { return line.section('|', theIndex, theIndex).trimmed(); };
-        const QString tag = cell(0).section(' ', 0, 0);
-        QString children = QString("<order_txt_lines head='%1'><l>%2</l></order_txt_lines><linked_articles>")
-                               .arg(cell(3).section(' ', 0, 0), cell(3).section(' ', 1));
-        for (const QString& id : cell(4).split(' ', Qt::SkipEmptyParts))
-            children += "<linked_article id='" + id + "'/>";
-        children += "</linked_articles><shipping_times>";
-        for (const QString& type : cell(5).split(' ', Qt::SkipEmptyParts))
-            children += "<shipping_time days='3' delivery_type='1' express='" + type + "'/>";
-        QString entry;
-        QTextStream stream(&entry);
-        priced(cell(1), tag, cell(2)).save(stream, -1);
-        sections[tag] += entry.replace(0, tag.size() + 2, "<" + cell(0) + ">" + children + "</shipping_times>");
-    }
+    for (const QString& line : trimmedParts(theLines.trimmed(), '\n'))
+        if (!line.isEmpty())
+            sections[line.section(' ', 0, 0)] += priceListEntry(line);
     QString document;
     for (auto section = sections.cbegin(); section != sections.cend(); ++section)
         document += QString("<%1s>%2</%1s>").arg(section.key(), section.value());
@@ -65,8 +77,11 @@ inline VelTarmBill bill(int theGroup, const QString& theCart,
                         VelPaymentType thePayment = PAYMENT_TYPE_3)
 {
     VelOrderStatistic cart;
-    for (const QString& entry : theCart.split(' ', Qt::SkipEmptyParts))
-        cart.add(product(entry.section('x', 0, 0).toInt()), entry.section('x', 1).toInt());
+    for (const QString& entry : theCart.split(' ', Qt::SkipEmptyParts)) {
+        VelProductAbstract* article = product(wholeNumber(entry.section('x', 0, 0)));
+        require(article, entry);
+        cart.add(article, wholeNumber(entry.section('x', 1)));
+    }
     VelTarmStatus status;
     status.setPayment(thePayment);
     return VelTarmBill(theGroup, cart, theExpressType, status);

@@ -11,13 +11,13 @@
 inline QDomElement priced(const QString& thePrices, const QString& theTag = QStringLiteral("article"),
                           const QString& theFurtherAttributes = QString())
 {
-    const QRegularExpression pattern(QStringLiteral("([A-Za-z,]*)(-?\\d+)(?:@(-?\\d+))?(?:=(-?\\d+))?"));
+    static const QRegularExpression pattern(QStringLiteral("^([A-Za-z,]*)(-?\\d+)(?:@(-?\\d+))?(?:=(-?\\d+))?$"));
     const QStringList names = {QStringLiteral("type"), QStringLiteral("level"), QStringLiteral("quantity"),
                                QStringLiteral("price")};
     QString entries;
-    QRegularExpressionMatchIterator found = pattern.globalMatch(thePrices);
-    while (found.hasNext()) {
-        const QRegularExpressionMatch entry = found.next();
+    for (const QString& text : thePrices.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        const QRegularExpressionMatch entry = pattern.match(text);
+        require(entry.hasMatch(), text);
         entries += QStringLiteral("<e ") + theFurtherAttributes;
         for (int i = 0; i < names.size(); ++i)
             if (!entry.captured(i + 1).isEmpty())
