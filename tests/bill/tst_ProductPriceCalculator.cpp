@@ -28,6 +28,8 @@ private slots:
             article id='9171' arrangement='photobook' name='ohne Schritt' min_pages='24' max_pages='120' | prices 0=900 | text [B] TYPE=ALB10
             article id='9141' arrangement='photobook' name='bloß' min_pages='-2147483648' max_pages='1' page_step='1' | prices 0=900 | text [B] TYPE=ALB11
             article id='9231' arrangement='photobook' name='ohne Preise' min_pages='2' max_pages='8' page_step='2' | prices 0=900 | with input_source='1' | text [B] TYPE=ALB13
+            article id='9221' arrangement='photobook' name='Seiten ohne Preis' min_pages='2' max_pages='8' page_step='2' | prices 0=700 | text [B] TYPE=ALB14
+            add_on id='20' product_class='s' | text [PAGES] | links 9221
             add_on id='21' product_class='s' | prices 0=60 1@2=50 | text [PAGES] | links 1 9181 9210 9171 9231
             add_on id='22' product_class='MAP1' | prices 0=150 | text [M] | links 9181 9231
             add_on id='23' product_class='VDO1' | prices 0=70 | text [V] | links 9181 9231
@@ -48,6 +50,8 @@ private slots:
             no print-fun product   | 1       | 60    | 0    | 0      |                | 100  | 0        | 0         | 0        | 0          | 100  | 0        | yes
             no package, map, video | 9141    | 60    | 1    | 2      |                | 900  | 0        | 0         | 0        | 0          | 900  | 2        | yes
             book without a price   | 9231    | 6     | 0    | 0      |                | -1   | 120      | 0         | 0        | 0          | 119  | 0        | no
+            package without one    | 9221    | 4     | 0    | 0      |                | 700  | -1       | 0         | 0        | 0          | 699  | 0        | no
+            it isn't needed        | 9221    | 2     | 0    | 0      |                | 700  | 0        | 0         | 0        | 0          | 700  | 0        | yes
             no product             | 0       | 60    | 1    | 1      | 2ax1           | 0    | 0        | 0         | 0        | 0          | 0    | 0        | no
         )");
     }

@@ -7,6 +7,7 @@
 #include "product/VelProductRegistryProductChecker.h"
 #include "product/VelProductSet.h"
 #include "product/VelProductSorting.h"
+#include "sibling/VelDirectoryConfig.h"
 #include "support/VelTestPriceList.h"
 
 #include <QCryptographicHash>
@@ -224,6 +225,8 @@ private slots:
         row("text: TYPE before type", ASK(product("ALB11")), "42");
         row("text: type before head", ASK(product("ALB9")), "9171");
         row("text: head", ASK(product("ALBUM")), "32");
+        row("exists: by TYPE", ASK(productExists("20x30AG")), "yes");
+        row("exists: by type", ASK(productExists("Alb9")), "yes");
         row("exists: not by head", ASK(productExists("ALBUM")), "no");
         row("add-on: last read as an article", ASK(supplement(1, "K")), "91");
         row("add-ons: for the user", ASK(possibleSupplements(1)), "60 61");
@@ -252,6 +255,16 @@ private slots:
         load(QString(SHOP) + SECOND_TAGS);
         QFETCH(Query, query);
         QTEST(query(*myRegistry), "expected");
+    }
+
+    void videoPrice()
+    {
+        myAccount.write("currencies.xml", "<c><x isocode='EUR'/></c>");
+        VelDirectoryConfig::instance()->setConfigurationDirectory(myAccount.path());
+        load("article id='9171' arrangement='photobook' | text [B] TYPE=ALB9\n"
+             "add_on id='62' product_class='VDO1' | prices 0=199 | links 9171");
+        QCOMPARE(myRegistry->qrCodePriceText(VelProductType("ALB9")), "1,99 €");
+        QVERIFY(myRegistry->qrCodePriceText(VelProductType("ALB11")).isNull());
     }
 
     void nearestInSize()
