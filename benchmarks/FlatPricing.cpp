@@ -1,160 +1,77 @@
 #include "benchmarks/FlatPricing.h"
 
-#include <algorithm>
+#include <tuple>
 
-FlatPricing::FlatPricing(const std::vector<ArticleRow>& theArticles)
+bool FlatLine::operator==(const FlatLine& theOther) const
 {
-    for (const ArticleRow& row : theArticles) {
-        const auto number = static_cast<int>(myArticles.size());
-        myArticles.push_back({row.myId, static_cast<int>(myLinks.size()), static_cast<int>(row.myLinks.size()),
-                              row.mySection == Section::ADD_ONS, row.myIsPrintFun});
-        myLinks.insert(myLinks.end(), row.myLinks.begin(), row.myLinks.end());
-        if (row.mySection == Section::TRANSFERS)
-            myTransfers.push_back({row.myGroup, number, row.myTransferModel});
-        if (row.mySection == Section::PAYMENT_FEES)
-            myPaymentFee = number;
-        if (row.mySection == Section::EXPRESS_FEES) {
-            myExpressFee = number;
-            myExpressGroup = row.myGroup;
-        }
+    const auto fields = [](const FlatLine& theLine) {
+        return std::tie(theLine.myArticle, theLine.myModel, theLine.myLevel, theLine.myCountItems, theLine.myUnitPrice,
+                        theLine.myUnitCount);
+    };
+    return fields(*this) == fields(theOther);
+}
+
+// ---- one bill
+
+/// One package, and what goes beyond it by the piece; everything by the piece where there is no package.
+void FlatBill::add(const CartItem& theItem, const FlatBand* theReached, const FlatBand* theBase)
+{
+    addTransfer(*theBase, theItem.myCount);
+    const FlatBand* package = theReached;
+    while (package != theBase && !package->myIsPackage)
+        ++package;
+    if (package == theBase) {
+        addLine(theItem.myArticle, *theReached, theItem.myCount, theItem.myCount);
+        return;
     }
-    for (int source = 0; source < SOURCES; ++source)
-        for (const ArticleRow& row : theArticles)
-            addShelf(row, source);
+    const int size = package == theReached ? theItem.myCount : package->myUpperLimit;
+    addLine(theItem.myArticle, *package, size, 1);
+    if (const int rest = theItem.myCount - size)
+        addLine(theItem.myArticle, *theReached, rest, rest);
 }
 
-void FlatPricing::addShelf(const ArticleRow& theArticle, int theSource)
+void FlatBill::addLine(int theArticle, const FlatBand& theBand, int theItems, int theUnits)
 {
-    Shelf shelf{static_cast<int>(myLadders.size()), 0, 0, 0};
-    for (const PriceRow& row : theArticle.myPrices) {
-        if (row.mySource != theSource)
-            continue;
-        if (shelf.myLadders == 0 || myLadders.back().myModel != row.myModel) {
-            myLadders.push_back({row.myModel, static_cast<int>(myBands.size()), 0});
-            ++shelf.myLadders;
-        }
-        ++myLadders.back().myCount;
-        myBands.insert(myBands.begin() + myLadders.back().myFirst, // the highest level first
-                       {row.myOfferEnd, row.myLevel, row.myQuantity, row.myUpperLimit, row.myPrice, row.myOldPrice,
-                        row.myIsPackage});
-        if (row.myModel == DISCOUNT_MODEL_BULK && row.myLevel == 0) {
-            shelf.myBaseTransfer = row.myBaseTransfer;
-            shelf.myUnitTransfer = row.myUnitTransfer;
-        }
+    *myEnd++ = {theArticle, theBand.myModel, theBand.myLevel, theItems, theBand.myPrice, theUnits};
+    myCost += theBand.myPrice * theUnits;
+    myIsShippingFree |= theBand.myModel == DISCOUNT_MODEL_PACKAGE;
+}
+
+void FlatBill::addTransfer(const FlatBand& theBase, int theCount)
+{
+    if (theBase.myBaseTransfer > myHighestBase) {
+        myHighestBase = theBase.myBaseTransfer;
+        myUnitOfHighest = theBase.myUnitTransfer;
     }
-    myShelves.push_back(shelf);
-}
-
-// ---- queries
-
-const FlatPricing::Article& FlatPricing::article(int theArticle) const
-{
-    return myArticles[static_cast<std::size_t>(theArticle)];
-}
-
-const FlatPricing::Shelf& FlatPricing::shelf(int theArticle, int theSource) const
-{
-    return myShelves[static_cast<std::size_t>(theSource) * myArticles.size() + static_cast<std::size_t>(theArticle)];
-}
-
-// ---- computing
-
-FlatPrices FlatPricing::prices(int theArticle, int theSource) const
-{
-    const Shelf& found = shelf(theArticle, theSource);
-    return {myLadders.data() + found.myFirstLadder, found.myLadders, myBands.data()};
-}
-
-int FlatPricing::price(int theArticle, int theSource, const FlatQuery& theQuery) const
-{
-    return flatAnswer(prices(theArticle, theSource), theQuery).myPrice;
-}
-
-/// The highest level that an article of the add-on has in the lines so far, each by its first line.
-int FlatPricing::inheritedLevel(const Article& theAddOn, const FlatLine* theBegin, const FlatLine* theEnd) const
-{
-    const auto links = myLinks.begin() + theAddOn.myFirstLink;
-    int highest = 0;
-    int former = -1;
-    for (const FlatLine* line = theBegin; line != theEnd; ++line) {
-        if (line->myLevel > highest && line->myArticle != former &&
-            std::binary_search(links, links + theAddOn.myLinks, article(line->myArticle).myId))
-            highest = line->myLevel;
-        former = line->myArticle;
-    }
-    return highest;
-}
-
-int FlatPricing::makeLines(const CartItem* theCart, int theItems, int theSource, FlatLine* theLines) const
-{
-    FlatLine* end = theLines;
-    for (const CartItem* item = theCart; item != theCart + theItems; ++item) {
-        const Article& wanted = article(item->myArticle);
-        const int level = wanted.myIsAddOn ? inheritedLevel(wanted, theLines, end) : 0;
-        const FlatPrices found = prices(item->myArticle, theSource);
-        const FlatAnswer answer = flatAnswer(found, {item->myCount, 0, level});
-        end = writeLines(found, answer, item->myCount, item->myArticle, end);
-    }
-    return static_cast<int>(end - theLines);
+    myUnits += theBase.myUnitTransfer * theCount;
 }
 
 /// One base charge, the highest, and the unit charge of every item but one of the article that pays it.
-int FlatPricing::transferByProducts(const CartItem* theCart, int theItems, int theSource) const
+int FlatBill::total() const
 {
-    int highest = 0;
-    int units = 0;
-    int leadersUnit = 0;
-    for (int item = 0; item < theItems; ++item) {
-        const Shelf& prices = shelf(theCart[item].myArticle, theSource);
-        if (item == 0 || prices.myBaseTransfer > highest) {
-            highest = prices.myBaseTransfer;
-            leadersUnit = prices.myUnitTransfer;
-        }
-        units += prices.myUnitTransfer * theCart[item].myCount;
+    return myIsShippingFree ? myCost : myCost + myHighestBase + myUnits - myUnitOfHighest;
+}
+
+// ---- a price list
+
+FlatPricing::FlatPricing(const std::vector<std::vector<FlatBand>>& theArticles)
+{
+    for (const std::vector<FlatBand>& bands : theArticles) {
+        myFirstBands.push_back(static_cast<int>(myBands.size()));
+        myBands.insert(myBands.end(), bands.begin(), bands.end());
     }
-    return highest + units - leadersUnit;
+    myFirstBands.push_back(static_cast<int>(myBands.size()));
 }
 
-int FlatPricing::transferFee(const CartItem* theCart, int theItems, int theGroup, int theSource,
-                             const Sums& theSums) const
+FlatBill FlatPricing::bill(const std::vector<CartItem>& theCart, FlatLine* theLines) const
 {
-    for (const Transfer& transfer : myTransfers) {
-        if (transfer.myGroup == theGroup)
-            return transfer.myModel == TRANSFER_MODEL_2
-                       ? transferByProducts(theCart, theItems, theSource)
-                       : price(transfer.myArticle, theSource, {theSums.myCount, theSums.myCost, 0});
+    FlatBill bill(theLines);
+    for (const CartItem& item : theCart) {
+        const int* first = myFirstBands.data() + item.myArticle;
+        const FlatBand* band = myBands.data() + first[0];
+        while (band->myQuantity > item.myCount)
+            ++band;
+        bill.add(item, band, myBands.data() + first[1] - 1);
     }
-    return 0;
-}
-
-FlatPricing::Sums FlatPricing::sumsOf(const FlatLine* theLines, int theLineCount) const
-{
-    Sums sums{0, 0, 0};
-    for (const FlatLine* line = theLines; line != theLines + theLineCount; ++line) {
-        const Article& sold = article(line->myArticle);
-        sums.myCost += line->myUnitPrice * line->myUnitCount;
-        sums.myCount += sold.myIsAddOn ? 0 : line->myCountItems;
-        sums.myPrintFuns += sold.myIsPrintFun ? line->myCountItems : 0;
-    }
-    return sums;
-}
-
-int FlatPricing::total(const CartItem* theCart, int theItems, int theGroup, int theSource, const FlatLine* theLines,
-                       int theLineCount) const
-{
-    const Sums sums = sumsOf(theLines, theLineCount);
-    const bool isFree = isShippingFree(theLines, theLineCount);
-    const int fee = isFree ? 0 : transferFee(theCart, theItems, theGroup, theSource, sums);
-    return std::max(0, sums.myCost + fee);
-}
-
-int FlatPricing::finalCost(const CartItem* theCart, int theItems, int theGroup, int theSource, const FlatLine* theLines,
-                           int theLineCount) const
-{
-    int cost = total(theCart, theItems, theGroup, theSource, theLines, theLineCount);
-    if (cost > 0)
-        cost += std::max(0, price(myPaymentFee, theSource, {1, 1, 0}));
-    if (theGroup != myExpressGroup)
-        return cost;
-    return cost + price(myExpressFee, theSource, {sumsOf(theLines, theLineCount).myPrintFuns, 1, 0});
+    return bill;
 }

@@ -1,83 +1,84 @@
 #ifndef FLATPRICING_H
 #define FLATPRICING_H
 
-#include "benchmarks/FlatRules.h"
-#include "benchmarks/PriceRows.h"
+#include "frame/VelEnumerations.h"
 
 #include <vector>
 
-/// The floor for bills: the same rules over plain arrays, without objects, keys, hashes or shared containers. Whoever
-/// asks brings the array for the lines, and keeps it from bill to bill.
+/// An article by its number in the price list, and how many of it.
+struct CartItem
+{
+    int myArticle;
+    int myCount;
+};
+
+/// A band with its price in cents. The base price of an article is its band of level 0, and has the charges for
+/// shipping.
+struct FlatBand
+{
+    VelDiscountModel myModel;
+    int myLevel;
+    int myQuantity;
+    int myUpperLimit;
+    int myPrice;
+    bool myIsPackage;
+    int myBaseTransfer;
+    int myUnitTransfer;
+};
+
+/// A line of a bill.
+struct FlatLine
+{
+    int myArticle;
+    VelDiscountModel myModel;
+    int myLevel;
+    int myCountItems;
+    int myUnitPrice;
+    int myUnitCount;
+    bool operator==(const FlatLine& theOther) const;
+};
+
+/// A bill that its articles are added to one by one. The lines go where its owner keeps them from bill to bill; there
+/// must be room for two of each article.
+class FlatBill
+{
+public:
+    explicit FlatBill(FlatLine* theLines) : myLines(theLines), myEnd(theLines) {}
+
+    /// Of the article's bands those that the count reaches, the highest level first and the base price last.
+    void add(const CartItem& theItem, const FlatBand* theReached, const FlatBand* theBase);
+
+    int lineCount() const { return static_cast<int>(myEnd - myLines); }
+
+    /// Items and shipping, which is charged by the products.
+    int total() const;
+
+private:
+    void addLine(int theArticle, const FlatBand& theBand, int theItems, int theUnits);
+    void addTransfer(const FlatBand& theBase, int theCount);
+
+    FlatLine* myLines;
+    FlatLine* myEnd;
+    int myCost = 0;
+    int myHighestBase = -1;
+    int myUnitOfHighest = 0;
+    int myUnits = 0;
+    bool myIsShippingFree = false;
+};
+
+/// The floor for bills: bulk prices, packages and transfer by products over plain arrays, for one order source, without
+/// objects, keys, hashes or shared containers.
 class FlatPricing
 {
 public:
-    explicit FlatPricing(const std::vector<ArticleRow>& theArticles);
+    /// The bands of each article, the highest level first.
+    explicit FlatPricing(const std::vector<std::vector<FlatBand>>& theArticles);
 
-    /// Articles go by their number in the price list.
-    int price(int theArticle, int theSource, const FlatQuery& theQuery) const;
-
-    /// Writes the lines of a cart, in the order of its articles, and gives their number. There must be room for two
-    /// lines of each item.
-    int makeLines(const CartItem* theCart, int theItems, int theSource, FlatLine* theLines) const;
-
-    /// Items and shipping of these lines, at least 0.
-    int total(const CartItem* theCart, int theItems, int theGroup, int theSource, const FlatLine* theLines,
-              int theLineCount) const;
-
-    /// The same with the fees of the payment and of express.
-    int finalCost(const CartItem* theCart, int theItems, int theGroup, int theSource, const FlatLine* theLines,
-                  int theLineCount) const;
+    FlatBill bill(const std::vector<CartItem>& theCart, FlatLine* theLines) const;
 
 private:
-    /// An article under one order source.
-    struct Shelf
-    {
-        int myFirstLadder;
-        int myLadders;
-        int myBaseTransfer;
-        int myUnitTransfer;
-    };
-    struct Article
-    {
-        int myId;
-        int myFirstLink;
-        int myLinks;
-        bool myIsAddOn;
-        bool myIsPrintFun;
-    };
-    struct Transfer
-    {
-        int myGroup;
-        int myArticle;
-        VelTransferModel myModel;
-    };
-
-    /// Cents, pieces without add-ons, and pieces of composed products.
-    struct Sums
-    {
-        int myCost;
-        int myCount;
-        int myPrintFuns;
-    };
-
-    void addShelf(const ArticleRow& theArticle, int theSource);
-    const Article& article(int theArticle) const;
-    const Shelf& shelf(int theArticle, int theSource) const;
-    FlatPrices prices(int theArticle, int theSource) const;
-    int inheritedLevel(const Article& theAddOn, const FlatLine* theBegin, const FlatLine* theEnd) const;
-    Sums sumsOf(const FlatLine* theLines, int theLineCount) const;
-    int transferFee(const CartItem* theCart, int theItems, int theGroup, int theSource, const Sums& theSums) const;
-    int transferByProducts(const CartItem* theCart, int theItems, int theSource) const;
-
     std::vector<FlatBand> myBands;
-    std::vector<FlatLadder> myLadders;
-    std::vector<Shelf> myShelves; ///< all articles of the first source, then those of the next one
-    std::vector<Article> myArticles;
-    std::vector<int> myLinks;
-    std::vector<Transfer> myTransfers;
-    int myPaymentFee = -1;
-    int myExpressFee = -1;
-    int myExpressGroup = -1;
+    std::vector<int> myFirstBands; ///< by article; one more behind the last
 };
 
 #endif

@@ -6,17 +6,18 @@
 
 #include <map>
 #include <tuple>
+#include <vector>
 
 namespace {
 
 const int ARTICLES = 10000;
 const int CARTS = 500;
 
-/// Carts on which all ways of pricing agree.
+/// Carts whose bills add up, or what is wrong with one.
 struct Carts
 {
     std::vector<Cart> myCarts;
-    const char* myDifference = nullptr;
+    const char* myFault = nullptr;
 };
 
 const Carts& preparedCarts(int theShopSize, int theCarts, int theArticles, int theGroup, AddOns theAddOns)
@@ -25,11 +26,11 @@ const Carts& preparedCarts(int theShopSize, int theCarts, int theArticles, int t
     Carts& carts = prepared[std::make_tuple(theShopSize, theCarts, theArticles, theGroup, theAddOns)];
     if (!carts.myCarts.empty())
         return carts;
-    BillShop& shop = BillShop::of(theShopSize);
+    const BillShop shop = BillShop::of(theShopSize);
     for (int number = 0; number < theCarts; ++number) {
         carts.myCarts.push_back(shop.cart(theArticles, theAddOns, number));
-        if (const char* difference = shop.difference(carts.myCarts.back(), theGroup))
-            carts.myDifference = difference;
+        if (const char* fault = faultOf(libraryBill(carts.myCarts.back(), theGroup)))
+            carts.myFault = fault;
     }
     return carts;
 }
@@ -37,8 +38,8 @@ const Carts& preparedCarts(int theShopSize, int theCarts, int theArticles, int t
 template <typename Pricing>
 void measure(benchmark::State& theState, const Carts& theCarts, Pricing thePricing)
 {
-    if (theCarts.myDifference)
-        theState.SkipWithError(theCarts.myDifference);
+    if (theCarts.myFault)
+        theState.SkipWithError(theCarts.myFault);
     std::size_t number = 0;
     for (auto _ : theState) {
         benchmark::DoNotOptimize(thePricing(theCarts.myCarts[number]));
@@ -52,9 +53,9 @@ void measureCarts(benchmark::State& theState, int theCarts, Pricing thePricing)
 {
     const auto group = static_cast<int>(theState.range(1));
     const AddOns addOns = theState.range(2) == 0 ? AddOns::NONE : AddOns::OF_FEW_ARTICLES;
-    BillShop& shop = BillShop::of(ARTICLES);
+    BillShop::of(ARTICLES);
     const Carts& carts = preparedCarts(ARTICLES, theCarts, static_cast<int>(theState.range(0)), group, addOns);
-    measure(theState, carts, [&](const Cart& theCart) { return thePricing(shop, theCart, group); });
+    measure(theState, carts, [&](const Cart& theCart) { return thePricing(theCart, group); });
 }
 
 int libraryTotal(const Cart& theCart, int theGroup)
@@ -64,43 +65,20 @@ int libraryTotal(const Cart& theCart, int theGroup)
 
 void bill(benchmark::State& theState, int theCarts)
 {
-    measureCarts(theState, theCarts,
-                 [](BillShop&, const Cart& theCart, int theGroup) { return libraryTotal(theCart, theGroup); });
-}
-
-void flatBill(benchmark::State& theState, int theCarts)
-{
-    measureCarts(theState, theCarts, [](BillShop& theShop, const Cart& theCart, int theGroup) {
-        return theShop.flatTotal(theCart, theGroup);
-    });
-}
-
-void sqliteBill(benchmark::State& theState, int theCarts)
-{
-    measureCarts(theState, theCarts, [](BillShop& theShop, const Cart& theCart, int theGroup) {
-        return theShop.sqliteTotal(theCart, theGroup);
-    });
+    measureCarts(theState, theCarts, libraryTotal);
 }
 
 /// With the fees for payment and express.
 void billFinalCost(benchmark::State& theState, int theCarts)
 {
-    measureCarts(theState, theCarts, [](BillShop&, const Cart& theCart, int theGroup) {
-        return libraryBill(theCart, theGroup).totalFinalCost(0);
-    });
-}
-
-void flatFinalCost(benchmark::State& theState, int theCarts)
-{
-    measureCarts(theState, theCarts, [](BillShop& theShop, const Cart& theCart, int theGroup) {
-        return theShop.flatFinalCost(theCart, theGroup);
-    });
+    measureCarts(theState, theCarts,
+                 [](const Cart& theCart, int theGroup) { return libraryBill(theCart, theGroup).totalFinalCost(0); });
 }
 
 /// With the position objects, which the total alone doesn't need.
 void billPositions(benchmark::State& theState, int theCarts)
 {
-    measureCarts(theState, theCarts, [](BillShop&, const Cart& theCart, int theGroup) {
+    measureCarts(theState, theCarts, [](const Cart& theCart, int theGroup) {
         const VelTarmBill bill = libraryBill(theCart, theGroup);
         return bill.totalFinalCostWithoutCoupon() + bill.orderPositions().size();
     });
@@ -124,13 +102,8 @@ void billInShop(benchmark::State& theState, AddOns theAddOns)
         ->ArgsProduct({{20}, {GROUP_BY_QUANTITY, GROUP_TRANSFER_MODEL_2}, {0, ADD_ONS_IN_CART}})
 #define ONE_CART ArgNames({"lines", "group", "addons"})->Args({20, GROUP_BY_QUANTITY, 0})
 
-BENCHMARK_CAPTURE(flatBill, sameCart, 1)->CARTS_OF_SIZES;
 BENCHMARK_CAPTURE(bill, sameCart, 1)->CARTS_OF_SIZES;
-BENCHMARK_CAPTURE(sqliteBill, sameCart, 1)->CARTS_OF_20;
-BENCHMARK_CAPTURE(flatBill, carts500, CARTS)->CARTS_OF_20;
 BENCHMARK_CAPTURE(bill, carts500, CARTS)->CARTS_OF_20;
-BENCHMARK_CAPTURE(sqliteBill, carts500, CARTS)->CARTS_OF_20;
-BENCHMARK_CAPTURE(flatFinalCost, sameCart, 1)->ONE_CART;
 BENCHMARK_CAPTURE(billFinalCost, sameCart, 1)->ONE_CART;
 BENCHMARK_CAPTURE(billPositions, sameCart, 1)->ONE_CART;
 BENCHMARK_CAPTURE(billInShop, addOnsOfFew, AddOns::OF_FEW_ARTICLES)->Arg(1000)->Arg(10000)->Arg(50000);

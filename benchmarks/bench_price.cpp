@@ -1,4 +1,3 @@
-#include "benchmarks/FlatPricing.h"
 #include "price/VelTarmPriceKey.h"
 #include "product/VelProduct.h"
 
@@ -36,30 +35,15 @@ void priceFor(benchmark::State& theState, const QString& thePrices, int theCount
         benchmark::DoNotOptimize(product.price(key, theCount, BILLING_SUM));
 }
 
-void flatPriceFor(benchmark::State& theState, const QString& thePrices, int theCount, int theExpected)
-{
-    const QString list = QStringLiteral("<pricelist><articles>%1</articles></pricelist>").arg(article(thePrices));
-    const FlatPricing pricing(readPriceRows(list.toUtf8()));
-    const FlatQuery query{theCount, BILLING_SUM, 0};
-    if (pricing.price(0, SOURCE_ONLINE_MAIL_ORDER, query) != theExpected)
-        theState.SkipWithError("wrong amount");
-    for (auto _ : theState)
-        benchmark::DoNotOptimize(pricing.price(0, SOURCE_ONLINE_MAIL_ORDER, query));
-}
-
-#define BENCHMARK_PRICES(theName, ...)                                                                                 \
-    BENCHMARK_CAPTURE(priceFor, theName, __VA_ARGS__);                                                                 \
-    BENCHMARK_CAPTURE(flatPriceFor, theName, __VA_ARGS__)
-
-BENCHMARK_PRICES(bulk, BULK, 60, 4800);
-BENCHMARK_PRICES(bulkBaseOnly, QStringLiteral("<p price='100'/>"), 60, 6000);
-BENCHMARK_PRICES(package, PACKAGE, 25, 1100);
-BENCHMARK_PRICES(bulkAndPackage, BULK + PACKAGE, 25, 1100);
-BENCHMARK_PRICES(inherited, QStringLiteral("<p type='I' price='390'/>"), 3, 1170);
-BENCHMARK_PRICES(bulkTransfer,
-                 QStringLiteral("<p type='F' price='395'/><p type='F' level='1' quantity='2' price='495'/>"), 3, 495);
-BENCHMARK_PRICES(billingSumTransfer,
-                 QStringLiteral("<p type='F' price='395'/><p type='Z' level='1' quantity='4000' price='0'/>"), 3, 0);
-BENCHMARK_PRICES(expressFee, QStringLiteral("<p type='X' price='490'/>"), 3, 490);
+BENCHMARK_CAPTURE(priceFor, bulk, BULK, 60, 4800);
+BENCHMARK_CAPTURE(priceFor, bulkBaseOnly, QStringLiteral("<p price='100'/>"), 60, 6000);
+BENCHMARK_CAPTURE(priceFor, package, PACKAGE, 25, 1100);
+BENCHMARK_CAPTURE(priceFor, bulkAndPackage, BULK + PACKAGE, 25, 1100);
+BENCHMARK_CAPTURE(priceFor, inherited, QStringLiteral("<p type='I' price='390'/>"), 3, 1170);
+BENCHMARK_CAPTURE(priceFor, bulkTransfer,
+                  QStringLiteral("<p type='F' price='395'/><p type='F' level='1' quantity='2' price='495'/>"), 3, 495);
+BENCHMARK_CAPTURE(priceFor, billingSumTransfer,
+                  QStringLiteral("<p type='F' price='395'/><p type='Z' level='1' quantity='4000' price='0'/>"), 3, 0);
+BENCHMARK_CAPTURE(priceFor, expressFee, QStringLiteral("<p type='X' price='490'/>"), 3, 490);
 
 } // namespace
