@@ -72,3 +72,12 @@ bool openAccount(const QString& theFolder, VelshopError& theError)
     VelTarmInitializer().setupModule();
     return canPrintMoney(currenciesFile, currencies, theError);
 }
+
+QStringList accountDocuments(const QString& theFolder)
+{
+    QStringList files;
+    for (const char* name :
+         {"pricelist.xml", "orderingdetails.xml", "currencies.xml", "appearance.xml", "icons/payment/filenames.xml"})
+        files.append(QDir(theFolder).filePath(QLatin1String(name)));
+    return files;
+}

@@ -3,8 +3,13 @@
 
 #include "host/VelshopError.h"
 
+#include <QStringList>
+
 /// Makes the folder the key account and starts the library on it. False, with the error in one line that names file,
 /// line and column, when one of its documents can't be read.
 bool openAccount(const QString& theFolder, VelshopError& theError);
+
+/// The files that make up the key account, whether they are there or not.
+QStringList accountDocuments(const QString& theFolder);
 
 #endif

@@ -1,5 +1,6 @@
 #include "host/VelshopBill.h"
 
+#include "host/VelshopAccount.h"
 #include "host/VelshopBillData.h"
 #include "host/VelshopBillDiscounts.h"
 #include "host/VelshopBillHtml.h"
@@ -9,25 +10,14 @@
 #include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopOptions.h"
+#include "host/VelshopOutputFile.h"
 #include "product/VelProductAbstract.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSaveFile>
 #include <QTextStream>
 
 namespace {
-
-/// Either the whole file is there or the former one stays. Flushed by hand: a disk that turns out to be full when
-/// commit() flushes would not keep it from replacing the former file.
-bool save(const QString& theFile, const QByteArray& theContent, VelshopError& theError)
-{
-    QSaveFile file(theFile);
-    if (file.open(QIODevice::WriteOnly) && file.write(theContent) == theContent.size() && file.flush() && file.commit())
-        return true;
-    theError = {theFile, 0, 0, file.errorString()};
-    return false;
-}
 
 QList<QStringList> orderTexts(const VelshopCart& theCart)
 {
@@ -56,13 +46,23 @@ void printText(const VelshopBillSheet& theSheet, const QList<QStringList>& theOr
         theOutput << '\n' << lines.join(QLatin1Char('\n')) << '\n';
 }
 
+bool areOutputsSafe(const VelshopBillArguments& theArguments, const VelshopCart& theCart, VelshopError& theError)
+{
+    QStringList inputs = accountDocuments(theArguments.myAccount);
+    inputs.append(theCart.myFile);
+    if (!theCart.myCouponFile.isEmpty())
+        inputs.append(theCart.myCouponFile);
+    return VelshopOutputFile::areSafe({theArguments.myHtmlFile, theArguments.myDiscountsFile}, inputs, theError);
+}
+
 bool writeFiles(const VelshopBillArguments& theArguments, const VelshopCart& theCart, const VelshopBillSheet& theSheet,
                 VelshopError& theError)
 {
-    if (!theArguments.myHtmlFile.isEmpty() && !save(theArguments.myHtmlFile, billPage(theSheet), theError))
+    if (!theArguments.myHtmlFile.isEmpty() &&
+        !VelshopOutputFile::write(theArguments.myHtmlFile, billPage(theSheet), theError))
         return false;
     return theArguments.myDiscountsFile.isEmpty() || !theSheet.isOrderable() ||
-           save(theArguments.myDiscountsFile, discountDescription(theCart), theError);
+           VelshopOutputFile::write(theArguments.myDiscountsFile, discountDescription(theCart), theError);
 }
 
 } // namespace
@@ -79,8 +79,8 @@ int billCart(const VelshopBillArguments& theArguments, QTextStream& theOutput, V
 {
     VelshopCart cart;
     VelshopBillSheet sheet;
-    if (!readCart(theArguments.myCart, cart, theError) || !makeBillSheet(cart, sheet, theError) ||
-        !writeFiles(theArguments, cart, sheet, theError))
+    if (!readCart(theArguments.myCart, cart, theError) || !areOutputsSafe(theArguments, cart, theError) ||
+        !makeBillSheet(cart, sheet, theError) || !writeFiles(theArguments, cart, sheet, theError))
         return EXIT_BAD_INPUT;
     const QList<QStringList> texts = theArguments.myHasOrderText ? orderTexts(cart) : QList<QStringList>();
     if (theArguments.myIsJson)

@@ -10,7 +10,7 @@ class VelshopCommandLine;
 /// Arguments of `velshop bill`.
 struct VelshopBillArguments : VelshopArguments
 {
-    QString myCart;          ///< file to bill
+    QString myCart;          ///< file to bill, "-" for standard input
     QString myHtmlFile;      ///< page to write, empty for none
     QString myDiscountsFile; ///< description of discounts to write, empty for none
     bool myHasOrderText = false;

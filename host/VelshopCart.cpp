@@ -104,7 +104,8 @@ private:
         if (!theCart.contains(STR_COUPON) && !theCart.contains(STR_COUPON_ID))
             return;
         const QString file = myReader.text(theCart.value(STR_COUPON), STR_COUPON);
-        myCart.myCouponFile = QFileInfo(myCart.myFile).dir().filePath(file);
+        const QFileInfo cart(myCart.myFile);
+        myCart.myCouponFile = cart.isFile() ? cart.dir().filePath(file) : file;
         myCart.myCouponId = myReader.text(theCart.value(STR_COUPON_ID), STR_COUPON_ID);
         if (!QFileInfo(myCart.myCouponFile).isFile()) // a device or a pipe might never end
             myReader.refuse(STR_COUPON, myCart.myCouponFile + QStringLiteral(": there is no such file"));

@@ -11,8 +11,9 @@
 
 /// What a customer wants: a JSON file with an order source (`source` with `delivery`, by default the starting choice),
 /// `payment` (a number, by default the order way's first), `express` ("0", "1" or "2"), `items`, and `coupon` (a file,
-/// relative to the cart) with `couponId`. An item has `article` and `count`, and for a book or calendar `pages`,
-/// `maps`, `videos` and `templates` (uses by price class) of one piece.
+/// relative to the cart; where the cart comes from a pipe, to the current folder) with `couponId`. An item has
+/// `article` and `count`, and for a book or calendar `pages`, `maps`, `videos` and `templates` (uses by price class) of
+/// one piece.
 struct VelshopCart
 {
     QString myFile;

@@ -72,7 +72,9 @@ const QVector<VelshopCommand>& VelshopCommands::all()
          shared(),
          OPENS_ACCOUNT,
          "the bills of a cart, one for each shipping group, and the order's totals",
-         "The cart is a JSON file such as carts/showcase.json of the sample shop.",
+         "The cart is a JSON file such as carts/showcase.json of the sample shop, or a pipe; \"-\" is standard input. "
+         "A file that is a regular one is replaced as a whole; to a device or a pipe is written directly. A file that "
+         "is also an input is refused. An order that can't be placed has no description of discounts.",
          "velshop bill cart.json --html bill.html",
          readAndRun(readBillArguments, billCart)},
         {"shop",

@@ -19,7 +19,7 @@ QString inOneLine(QString theText)
 
 QString VelshopError::text() const
 {
-    QString place = myFile;
+    QString place = myFile == QLatin1String("-") ? QStringLiteral("standard input") : myFile;
     if (myLine > 0)
         place += QStringLiteral(", line %1, column %2").arg(myLine).arg(myColumn);
     return inOneLine(place.isEmpty() ? myReason : place + QStringLiteral(": ") + myReason);

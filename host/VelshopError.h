@@ -10,7 +10,8 @@ public:
     VelshopError() = default;
     /// Without a place. Not explicit: most errors are a sentence.
     VelshopError(const QString& theReason) : myReason(theReason) {}
-    /// With the file, and line and column in it, both from 1; 0 where the file as a whole is meant.
+    /// With the file ("-" for standard input), and line and column in it, both from 1; 0 where the file as a whole is
+    /// meant.
     VelshopError(const QString& theFile, int theLine, int theColumn, const QString& theReason)
         : myFile(theFile), myLine(theLine), myColumn(theColumn), myReason(theReason)
     {

@@ -1,9 +1,10 @@
 #include "host/VelshopJsonReader.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+
+#include <cstdio>
 
 namespace {
 
@@ -39,15 +40,31 @@ void VelshopJsonReader::refuseSyntax(const QByteArray& theBytes, int theOffset, 
     myError = {myFile, line, column, theReason};
 }
 
-QJsonObject VelshopJsonReader::document()
+/// A pipe doesn't tell its size, and a device may never end.
+QByteArray VelshopJsonReader::content()
 {
     QFile file(myFile);
-    if (!QFileInfo(myFile).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > LARGEST_FILE) {
-        myError = {myFile, 0, 0,
-                   file.isOpen() ? QStringLiteral("the file is too large") : QStringLiteral("can't be read")};
-        return QJsonObject();
+    const bool isOpen =
+        myFile == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    QByteArray bytes;
+    while (isOpen && bytes.size() <= LARGEST_FILE) {
+        const QByteArray more = file.read(LARGEST_FILE + 1 - bytes.size());
+        if (more.isEmpty())
+            break;
+        bytes += more;
     }
-    const QByteArray bytes = file.readAll();
+    if (!isOpen || file.error() != QFileDevice::NoError)
+        myError = {myFile, 0, 0, QStringLiteral("can't be read: ") + file.errorString()};
+    else if (bytes.size() > LARGEST_FILE)
+        myError = {myFile, 0, 0, QStringLiteral("is larger than %1 bytes").arg(LARGEST_FILE)};
+    return bytes;
+}
+
+QJsonObject VelshopJsonReader::document()
+{
+    const QByteArray bytes = content();
+    if (isRefused())
+        return QJsonObject();
     QJsonParseError error;
     const QJsonDocument json = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError)

@@ -6,8 +6,8 @@
 #include <QJsonObject>
 #include <QStringList>
 
-/// Reads a JSON file strictly: what is missing, of the wrong type or out of range is refused in one line that names the
-/// file and the place. The first refusal counts; what is read behind it means nothing.
+/// Reads a JSON file, or standard input as "-", strictly: what is missing, of the wrong type or out of range is refused
+/// in one line that names the file and the place. The first refusal counts; what is read behind it means nothing.
 class VelshopJsonReader
 {
 public:
@@ -32,6 +32,7 @@ public:
     QJsonArray array(const QJsonValue& theValue, const QString& thePlace);
 
 private:
+    QByteArray content();
     void refuseSyntax(const QByteArray& theBytes, int theOffset, const QString& theReason);
 
     QString myFile;

@@ -266,6 +266,45 @@ private slots:
         }
     }
 
+    /// The scripts stand in a folder with a cart, a coupon, a cart that names it, and a key account.
+    void files_data()
+    {
+        readTable(R"(
+            row                  | exitCode | printed                  | script
+            cart from a pipe     | 0 | CHF 20.25                       | velshop bill - < <(cat cart)
+            cart from a fifo     | 0 | CHF 20.25                       | velshop bill <(cat cart)
+            endless cart         | 2 | larger than                     | velshop bill /dev/zero
+            cut off in the pipe  | 2 | standard input, line 2, column 2: | velshop bill - < <(head -c 4 cart)
+            page into a pipe     | 0 | <!DOCTYPE                       | velshop bill cart --html >(cat >&2) >out; sleep 0.2
+            page before the text | 0 | Order by                        | velshop bill cart --html /dev/stdout >out; sed -n '/<.html>/{n;p}' out
+            full device          | 2 | /dev/full: No space left        | velshop bill cart --html /dev/full
+            devices stay         | 0 | two devices                     | velshop bill cart --html /dev/null --discounts /dev/null >out; [ -c /dev/null ] && echo two devices
+            page over the cart   | 2 | linked: is also an input (cart) | ln cart linked; velshop bill cart --html linked
+            page over the stdin  | 2 | cart: is also an input (-)      | velshop bill - --html cart <cart
+            over the coupon      | 2 | linked: is also an input        | ln -s coupon linked; velshop bill bought --discounts linked
+            over the price list  | 2 | is also an input                | velshop bill cart --account shop --html shop/../shop/pricelist.xml
+            page over discounts  | 2 | ./new: can't take two outputs   | ln -s new linked; velshop bill cart --html linked --discounts ./new
+            page over the answer | 2 | out: can't take two outputs     | velshop bill cart --html out >out
+        )");
+    }
+
+    void files()
+    {
+        const TestAccount folder;
+        folder.write("cart", content(VELTARM_SOURCE_DIR "/shop/carts/small.json"));
+        folder.write("coupon", content(VELTARM_SOURCE_DIR "/shop/coupons/books10.xml"));
+        folder.write("bought", R"({"coupon": "coupon", "couponId": "A", "items": [{"article": 103, "count": 1}]})");
+        QProcess shell;
+        shell.setProcessChannelMode(QProcess::MergedChannels);
+        shell.setWorkingDirectory(folder.path());
+        shell.start("bash", {"-c", QString("velshop() { '%1' \"$@\"; }; cp -r '%2/shop' .; %3")
+                                       .arg(VELSHOP_PROGRAM, VELTARM_SOURCE_DIR, cell("script"))});
+        QVERIFY(shell.waitForFinished(60000));
+        const QByteArray printed = shell.readAll();
+        QVERIFY2(printed.contains(cell("printed").toUtf8()), printed);
+        QCOMPARE(shell.exitCode(), number("exitCode"));
+    }
+
     void discounts()
     {
         const TestAccount folder;
