@@ -40,10 +40,12 @@ QJsonObject toJson(const VelDiscountLimit& theBand, const QList<PriceInBand>& th
         prices.append(QJsonObject{{QStringLiteral("article"), price.myProduct->articleID()},
                                   {QStringLiteral("name"), price.myProduct->name()},
                                   {QStringLiteral("price"), price.myPrice}});
-    QJsonObject json{{QStringLiteral("model"), VelshopWords::discountModel(theBand.discountModel())},
-                     {QStringLiteral("level"), theBand.level()},
-                     {QStringLiteral("package"), theBand.isPackage()},
-                     {QStringLiteral("prices"), prices}};
+    QJsonObject json{
+        {QStringLiteral("model"), VelshopWords::discountModel(theBand.discountModel())},
+        {QStringLiteral("level"), theBand.level()},
+        {QStringLiteral("orderSource"), VelshopWords::orderSourceData(VelTarmGlobalStatus::instance()->orderSource())},
+        {QStringLiteral("package"), theBand.isPackage()},
+        {QStringLiteral("prices"), prices}};
     VelshopWords::insertBand(json, theBand);
     return json;
 }

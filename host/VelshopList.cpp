@@ -1,5 +1,6 @@
 #include "host/VelshopList.h"
 
+#include "frame/VelTarmGlobalStatus.h"
 #include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopOptions.h"
@@ -52,14 +53,16 @@ VelProductList articlesToList(const VelshopListArguments& theArguments)
 
 QJsonObject toJson(const VelProductAbstract* theProduct)
 {
-    return {{QStringLiteral("id"), theProduct->articleID()},
-            {QStringLiteral("name"), theProduct->name()},
-            {QStringLiteral("editorName"), theProduct->editorName()},
-            {QStringLiteral("group"), theProduct->shippingGroupId()},
-            {QStringLiteral("groupName"), groupName(theProduct)},
-            {QStringLiteral("type"), typeOf(theProduct)},
-            {QStringLiteral("price"), theProduct->price() == -1 ? QJsonValue() : QJsonValue(theProduct->price())},
-            {QStringLiteral("orderable"), theProduct->isOrderable()}};
+    return {
+        {QStringLiteral("id"), theProduct->articleID()},
+        {QStringLiteral("name"), theProduct->name()},
+        {QStringLiteral("editorName"), theProduct->editorName()},
+        {QStringLiteral("group"), theProduct->shippingGroupId()},
+        {QStringLiteral("groupName"), groupName(theProduct)},
+        {QStringLiteral("type"), typeOf(theProduct)},
+        {QStringLiteral("price"), theProduct->price() == -1 ? QJsonValue() : QJsonValue(theProduct->price())},
+        {QStringLiteral("orderSource"), VelshopWords::orderSourceData(VelTarmGlobalStatus::instance()->orderSource())},
+        {QStringLiteral("orderable"), theProduct->isOrderable()}};
 }
 
 QStringList toRow(const VelProductAbstract* theProduct)

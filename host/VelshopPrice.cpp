@@ -135,7 +135,7 @@ QJsonObject toJson(const PricedArticle& theArticle)
     return {{QStringLiteral("article"), theArticle.myProduct->articleID()},
             {QStringLiteral("name"), theArticle.myProduct->name()},
             {QStringLiteral("count"), theArticle.myCount},
-            {QStringLiteral("orderSource"), VelshopWords::orderSource(theArticle.mySource)},
+            {QStringLiteral("orderSource"), VelshopWords::orderSourceData(theArticle.mySource)},
             {QStringLiteral("amount"), hasPrice ? QJsonValue(theArticle.myAmount) : QJsonValue()},
             {QStringLiteral("text"), hasPrice ? QJsonValue(VelshopWords::money(theArticle.myAmount)) : QJsonValue()},
             {QStringLiteral("lines"), lines}};

@@ -31,7 +31,7 @@ const QString STR_IMAGE_EXPORTS = QStringLiteral("imageExports");
 const QString STR_FLAGS = QStringLiteral("flags");
 const QString STR_OUTDATED = QStringLiteral("priceListOutdated");
 const QString STR_NAME = QStringLiteral("name");
-const QString STR_WAY = QStringLiteral("way");
+const QString STR_ORDER_SOURCE = QStringLiteral("orderSource");
 const QString STR_ENABLED = QStringLiteral("enabled");
 const QString STR_PAYMENTS = QStringLiteral("payments");
 const QString STR_PAYMENT = QStringLiteral("payment");
@@ -76,7 +76,7 @@ QJsonArray orderWays()
         for (const VelPaymentType type : details->availablePayments(source))
             for (const QJsonValue& payment : paymentsOfType(source, type))
                 payments.append(payment);
-        ways.append(QJsonObject{{STR_WAY, VelshopWords::orderSource(source)},
+        ways.append(QJsonObject{{STR_ORDER_SOURCE, VelshopWords::orderSourceData(source)},
                                 {STR_ENABLED, details->orderSourceEnabled(source)},
                                 {STR_PAYMENTS, payments}});
     }
@@ -91,7 +91,7 @@ QJsonObject start()
         status->payment() == PAYMENT_TYPE_UNKNOWN
             ? QJsonValue()
             : paymentsOfType(status->orderSource(), status->payment()).first().toObject().value(STR_NAME);
-    return {{STR_WAY, VelshopWords::orderSource(status->orderSource())},
+    return {{STR_ORDER_SOURCE, VelshopWords::orderSourceData(status->orderSource())},
             {STR_TYPE, status->payment()},
             {STR_PAYMENT, payment}};
 }
@@ -191,6 +191,13 @@ QString paymentText(const QJsonObject& thePayment)
     return thePayment.value(STR_NAME).toString() + (icon.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(icon));
 }
 
+QString orderSourceText(const QJsonObject& theWay)
+{
+    const QJsonObject source = theWay.value(STR_ORDER_SOURCE).toObject();
+    return source.value(QStringLiteral("source")).toString() + QStringLiteral(", ") +
+           source.value(QStringLiteral("delivery")).toString();
+}
+
 void printOrderWays(const QJsonObject& theConditions, QTextStream& theOutput)
 {
     theOutput << "Order ways\n";
@@ -199,11 +206,11 @@ void printOrderWays(const QJsonObject& theConditions, QTextStream& theOutput)
         QStringList payments;
         for (const QJsonValue& payment : way.value(STR_PAYMENTS).toArray())
             payments.append(paymentText(payment.toObject()));
-        theOutput << "  " << way.value(STR_WAY).toString() << ": " << payments.join(QStringLiteral(", "))
+        theOutput << "  " << orderSourceText(way) << ": " << payments.join(QStringLiteral(", "))
                   << (way.value(STR_ENABLED).toBool() ? "" : " (not enabled)") << '\n';
     }
     const QJsonObject start = theConditions.value(STR_START).toObject();
-    theOutput << "  Starts with " << start.value(STR_WAY).toString() << ", "
+    theOutput << "  Starts with " << orderSourceText(start) << ", "
               << start.value(STR_PAYMENT).toString(QStringLiteral("no payment")) << "\n\n";
 }
 

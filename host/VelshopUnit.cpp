@@ -1,6 +1,7 @@
 #include "host/VelshopUnit.h"
 
 #include "bill/VelProductPriceCalculator.h"
+#include "frame/VelTarmGlobalStatus.h"
 #include "host/VelshopArticle.h"
 #include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
@@ -37,11 +38,14 @@ void printJson(const VelProductPriceCalculator& theCalculator, const QList<Part>
     for (const Part& part : theParts)
         prices.insert(part.myName,
                       QJsonObject{{QStringLiteral("count"), part.myCount}, {QStringLiteral("price"), part.myPrice}});
-    theOutput << QJsonDocument(QJsonObject{{QStringLiteral("article"), theCalculator.articleID()},
-                                           {QStringLiteral("name"), theCalculator.productName()},
-                                           {QStringLiteral("pages"), theCalculator.countPages()},
-                                           {QStringLiteral("parts"), prices},
-                                           {QStringLiteral("unitPrice"), theCalculator.unitPrice()}})
+    theOutput << QJsonDocument(
+                     QJsonObject{{QStringLiteral("article"), theCalculator.articleID()},
+                                 {QStringLiteral("name"), theCalculator.productName()},
+                                 {QStringLiteral("pages"), theCalculator.countPages()},
+                                 {QStringLiteral("orderSource"),
+                                  VelshopWords::orderSourceData(VelTarmGlobalStatus::instance()->orderSource())},
+                                 {QStringLiteral("parts"), prices},
+                                 {QStringLiteral("unitPrice"), theCalculator.unitPrice()}})
                      .toJson();
 }
 

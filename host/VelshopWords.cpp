@@ -102,6 +102,12 @@ QString VelshopWords::orderSource(const VelOrderSource& theOrderSource)
            wordOf(DELIVERY_TYPES, theOrderSource.deliveryType());
 }
 
+QJsonObject VelshopWords::orderSourceData(const VelOrderSource& theOrderSource)
+{
+    return {{QStringLiteral("source"), wordOf(INPUT_SOURCES, theOrderSource.inputSource())},
+            {QStringLiteral("delivery"), wordOf(DELIVERY_TYPES, theOrderSource.deliveryType())}};
+}
+
 QString VelshopWords::discountModel(VelDiscountModel theDiscountModel)
 {
     return wordOf(DISCOUNT_MODELS, theDiscountModel);

@@ -19,6 +19,9 @@ bool readDeliveryType(const QString& theWord, VelDeliveryType& theDeliveryType);
 /// As "NET, MAIL".
 QString orderSource(const VelOrderSource& theOrderSource);
 
+/// The same as data: `source` and `delivery`, each a word of the table.
+QJsonObject orderSourceData(const VelOrderSource& theOrderSource);
+
 /// As "bulk".
 QString discountModel(VelDiscountModel theDiscountModel);
 

@@ -135,6 +135,11 @@ private slots:
         QVERIFY(refused["file"].toString() == "none.json" && refused["line"].isNull() && refused["error"].isString());
         const QJsonDocument shop = json("shop");
         QVERIFY(shop["orderWays"].toArray().size() == 5 && shop["start"]["type"].toInt() == 3);
+        const QJsonObject netMail{{"source", "NET"}, {"delivery", "MAIL"}};
+        const QJsonValue band = json("bands 1")[0];
+        for (const QJsonValue& answer : {price["orderSource"], unit["orderSource"], shop["start"]["orderSource"],
+                                         json("list")[0]["orderSource"], band["orderSource"]})
+            QCOMPARE(answer.toObject(), netMail);
         const QJsonObject ofTwoBooks = json("types")[2].toObject();
         QVERIFY(ofTwoBooks["products"].toArray().size() == 2 && !ofTwoBooks.contains("pages")); // which would it tell?
     }
