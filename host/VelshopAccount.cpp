@@ -2,8 +2,8 @@
 
 #include "frame/VelChildElements.h"
 #include "frame/VelTarmInitializer.h"
-#include "host/VelshopMessages.h"
 #include "ordering/VelOrderingDetails.h"
+#include "product/VelProductRegistry.h"
 #include "sibling/VelDirectoryConfig.h"
 #include "sibling/VelKeyAccount.h"
 #include "sibling/VelXMLLoader.h"
@@ -16,22 +16,20 @@ namespace {
 const QString STR_CURRENCIES_FILE = QStringLiteral("currencies.xml");
 const QString STR_ISO_CODE = QStringLiteral("isocode");
 
-/// The document element; null, with file, line, column and reason in the error, for a document that can't be read. The
-/// library takes such a one for empty, but a person at a desk wants to know. The loader's own message tells the place.
-QDomElement readDocument(const QFileInfo& theDocument, VelshopError& theError)
+/// Documents are regular files: a device might never end.
+bool isThere(const QFileInfo& theDocument, VelshopError& theError)
 {
-    if (!theDocument.isFile()) {
+    if (!theDocument.isFile())
         theError = {theDocument.filePath(), 0, 0, QStringLiteral("there is no such file")};
-        return QDomElement();
-    }
-    VelshopMessages::drop();
-    const QDomElement root = VelXMLLoader::loadDocumentElement(theDocument);
-    if (root.isNull())
-        theError = VelshopMessages::last().section(QStringLiteral(" -- "), 1);
-    if (root.isNull() && theError.isEmpty()) // the log may be filtered
-        theError = {theDocument.filePath(), 0, 0, QStringLiteral("can't be read")};
-    VelshopMessages::drop();
-    return root;
+    return theError.isEmpty();
+}
+
+/// The library takes a document that can't be read for empty, but a person at a desk wants to know.
+bool wasRead(const VelTarmLoadResult& theLoad, VelshopError& theError)
+{
+    if (!theLoad.wasRead())
+        theError = {theLoad.file(), theLoad.line(), theLoad.column(), theLoad.reason()};
+    return theError.isEmpty();
 }
 
 bool holdsCurrency(const QDomElement& theCurrencies, const QString& theIsoCode)
@@ -63,14 +61,15 @@ bool openAccount(const QString& theFolder, VelshopError& theError)
     VelKeyAccount* keyAccount = VelKeyAccount::instance();
     keyAccount->activate(QDir(theFolder));
     const QFileInfo currenciesFile(QDir(theFolder).filePath(STR_CURRENCIES_FILE));
-    if (readDocument(keyAccount->pricelistXMLFileInfo(false), theError).isNull() ||
-        readDocument(keyAccount->orderingDetailsXMLFileInfo(false), theError).isNull())
-        return false;
-    const QDomElement currencies = readDocument(currenciesFile, theError);
-    if (currencies.isNull())
+    if (!isThere(keyAccount->pricelistXMLFileInfo(false), theError) ||
+        !isThere(keyAccount->orderingDetailsXMLFileInfo(false), theError) || !isThere(currenciesFile, theError))
         return false;
     VelTarmInitializer().setupModule();
-    return canPrintMoney(currenciesFile, currencies, theError);
+    const QDomElement currencies = VelXMLLoader::loadDocumentElement(currenciesFile);
+    return wasRead(VelProductRegistry::instance()->lastLoad(), theError) &&
+           wasRead(VelOrderingDetails::instance()->lastLoad(), theError) &&
+           wasRead(VelTarmLoadResult(currenciesFile, currencies), theError) &&
+           canPrintMoney(currenciesFile, currencies, theError);
 }
 
 QStringList accountDocuments(const QString& theFolder)

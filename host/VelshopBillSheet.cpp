@@ -5,7 +5,6 @@
 #include "bill/VelTarmBillPosition.h"
 #include "host/VelshopBillMoney.h"
 #include "host/VelshopCart.h"
-#include "host/VelshopMessages.h"
 #include "host/VelshopWords.h"
 #include "ordering/VelOrderingDetails.h"
 #include "ordering/VelTarmShippingGroupManager.h"
@@ -104,13 +103,10 @@ private:
     {
         if (myCart.myCouponFile.isEmpty())
             return true;
-        const QDomElement document = VelXMLLoader::loadDocumentElement(QFileInfo(myCart.myCouponFile));
+        const QFileInfo file(myCart.myCouponFile);
+        const QDomElement document = VelXMLLoader::loadDocumentElement(file);
         if (document.isNull()) {
-            // The loader's own message tells line and column, but the log may be filtered.
-            const QString reason = VelshopMessages::last().section(QStringLiteral(" -- "), 1);
-            theError = {myCart.myFile, 0, 0,
-                        QStringLiteral("coupon: ") +
-                            (reason.isEmpty() ? myCart.myCouponFile + QStringLiteral(" can't be read") : reason)};
+            theError = {myCart.myFile, 0, 0, QStringLiteral("coupon: ") + VelTarmLoadResult(file, document).problem()};
             return false;
         }
         myCoupon = std::make_unique<VelCoupon>(myCart.myCouponId, document);

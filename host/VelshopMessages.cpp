@@ -6,6 +6,9 @@
 
 namespace {
 
+/// How the library's log says that a file as a whole is meant.
+const QString STR_NO_PLACE = QStringLiteral(", line 0, column 0");
+
 QStringList& messages()
 {
     static QStringList kept;
@@ -20,20 +23,10 @@ void VelshopMessages::holdBack()
         [](QtMsgType, const QMessageLogContext&, const QString& theText) { messages().append(theText); });
 }
 
-QString VelshopMessages::last()
-{
-    return messages().isEmpty() ? QString() : messages().last();
-}
-
-void VelshopMessages::drop()
-{
-    messages().clear();
-}
-
 void VelshopMessages::write()
 {
     QTextStream errors(stderr);
     useUtf8(errors);
     for (const QString& message : qAsConst(messages()))
-        errors << message << '\n';
+        errors << QString(message).remove(STR_NO_PLACE) << '\n';
 }

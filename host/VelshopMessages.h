@@ -9,12 +9,6 @@ namespace VelshopMessages {
 /// From now on messages are kept in place of being written.
 void holdBack();
 
-/// The last message kept, null when there is none.
-QString last();
-
-/// Drops what is kept so far.
-void drop();
-
 /// Writes what is kept to stderr.
 void write();
 

@@ -266,8 +266,9 @@ QStringList VelOrderingDetails::namesOfOrderingDetails()
 
 void VelOrderingDetails::update()
 {
-    const QDomElement root =
-        VelXMLLoader::loadDocumentElement(VelKeyAccount::instance()->orderingDetailsXMLFileInfo(false));
+    const QFileInfo file = VelKeyAccount::instance()->orderingDetailsXMLFileInfo(false);
+    const QDomElement root = VelXMLLoader::loadDocumentElement(file);
+    myLastLoad = VelTarmLoadResult(file, root);
     for (const VelPaymentClass payClass : payClasses())
         updateDetails(payClass, root.firstChildElement(EnumHelper::encodePaymentClass(payClass)));
     myRequiresDOI = VelXMLParser::boolText(root, STR_DOI, false);

@@ -4,6 +4,7 @@
 #include "frame/VelEnumerations.h"
 #include "frame/VelOrderSource.h"
 #include "frame/VelTarmExport.h"
+#include "frame/VelTarmLoadResult.h"
 #include "ordering/VelClientStrategyException.h"
 
 #include <QDateTime>
@@ -32,6 +33,9 @@ class VELTARM_EXPORT VelOrderingDetails : public QObject
 public:
     /// Built on the first call, which is guarded; never deleted.
     static VelOrderingDetails* instance();
+
+    /// How the last load went. It stands when changed() is emitted.
+    VelTarmLoadResult lastLoad() const { return myLastLoad; }
 
     /// The texts of `doi`, `address_check` and `sales_tax`, default false; acting on them is the application's
     /// business.
@@ -166,7 +170,7 @@ public:
     void updateImageExports(const QDomElement& theSection);
 
 public slots:
-    /// Reads the document again. A missing or broken one counts as one without content.
+    /// Reads the document again. A missing or broken one counts as one without content; lastLoad() tells why.
     void update();
 
 signals:
@@ -179,6 +183,7 @@ private:
     void updateDetails(VelPaymentClass thePayClass, const QDomElement& theSection);
     QList<VelOrderingDetailItem*> itemsOf(VelPaymentClass thePayClass) const;
 
+    VelTarmLoadResult myLastLoad;
     QMap<VelPaymentClass, QList<VelOrderingDetailItem*>*> myDetails;
     QMap<QString, QString> myIconNames; ///< by the name of the payment
     QMap<VelOrderSource, QList<VelPaymentType>> myOrderSources;

@@ -473,11 +473,14 @@ void VelProductRegistry::loadAllProducts()
 
 void VelProductRegistry::loadAllProducts(const QFileInfo& theProductListFileInfo)
 {
-    updateProducts(VelXMLLoader::loadDocumentElement(theProductListFileInfo));
+    const QDomElement root = VelXMLLoader::loadDocumentElement(theProductListFileInfo);
+    myLastLoad = VelTarmLoadResult(theProductListFileInfo, root);
+    updateProducts(root);
 }
 
 void VelProductRegistry::updateProducts(const QDomNode& theNode)
 {
+    const auto knownProducts = static_cast<int>(myProductList.size());
     myFotoBookCache->clear();
     setProductsDeprecated();
     readProducts(theNode.firstChildElement(STR_ARTICLES));
@@ -485,7 +488,17 @@ void VelProductRegistry::updateProducts(const QDomNode& theNode)
     readAdditionalPaymentFees(theNode.firstChildElement(STR_PAYMETHOD_FEES));
     readTransferPrices(theNode.firstChildElement(STR_TRANSFERS));
     readExpressFees(theNode.firstChildElement(STR_EXPRESS_FEES));
+    countProducts(knownProducts);
     emit priceListUpdated();
+}
+
+void VelProductRegistry::countProducts(int theKnownProducts)
+{
+    const auto deprecated = static_cast<int>(
+        std::count_if(myProductList.cbegin(), myProductList.cend(),
+                      [](const VelProductAbstract* theProduct) { return theProduct->isDeprecated(); }));
+    myLastLoad.setProducts(static_cast<int>(myProductList.size()) - theKnownProducts, theKnownProducts - deprecated,
+                           deprecated);
 }
 
 void VelProductRegistry::readProducts(const QDomElement& theSection)

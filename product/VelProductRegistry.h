@@ -3,6 +3,7 @@
 
 #include "frame/VelEnumerations.h"
 #include "frame/VelTarmExport.h"
+#include "frame/VelTarmLoadResult.h"
 #include "product/VelProductList.h"
 #include "sibling/VelProductGroup.h"
 #include "sibling/VelProductType.h"
@@ -170,9 +171,12 @@ public:
     QList<VelExpressType> supportedExpressTypes(int theShippingGroupId, const VelTarmPriceKey& theKey) const;
     bool containsExpressAgioProducts() const;
 
+    /// How the last load went, with its counts of products. It stands when priceListUpdated() is emitted.
+    VelTarmLoadResult lastLoad() const { return myLastLoad; }
+
     /// Reads the sections of a document element: `articles`, `add_ons`, `paymethod_fees`, `transfers`,
     /// `express_fees`, the first of each and in this order, whatever their order in the document. A null node counts
-    /// as a document without sections.
+    /// as a document without sections. Called for itself it counts its products into lastLoad(), whose file stays.
     void updateProducts(const QDomNode& theNode);
 
     /// Updates the product of each element's `id` (default 0), or builds a new one and takes it in. A print-fun
@@ -194,7 +198,7 @@ public:
     void readExpressFees(const QDomElement& theSection);
 
 public slots:
-    /// Loads or reloads from that file. One that can't be read leaves every product deprecated.
+    /// Loads or reloads from that file. One that can't be read leaves every product deprecated; lastLoad() tells why.
     void loadAllProducts(const QFileInfo& theProductListFileInfo);
 
     /// Loads or reloads the current key account's price list.
@@ -206,6 +210,7 @@ signals:
 
 private:
     QHash<int, VelProductAbstract*> firstProductsByArticleID() const;
+    void countProducts(int theKnownProducts);
 
     template <typename Predicate>
     VelProductAbstract* firstProduct(Predicate thePredicate) const;
@@ -220,6 +225,7 @@ private:
     mutable QHash<int, VelProductAbstract*> myProductsByArticleID;        ///< an index, see productWithArticleID
     mutable unsigned myIndexedIdChanges = 0;                              ///< the changes of ids that the index knows
     mutable int myIndexedProducts = 0;                                    ///< the length of the list that it knows
+    VelTarmLoadResult myLastLoad;
     VelProductRegistryTransferProducts* myTransferProducts;
     VelProductRegistryExpressFees* myExpressFees;
     VelProductRegistryPaymentAgio* myPaymentAgio;

@@ -18,9 +18,9 @@ namespace VelGuardedDocument {
 /// Why a document was refused. Line and column begin with 1; 0 means none, as for a file that can't be opened.
 struct Refusal
 {
-    QString myReason;
-    int myLine = 0;
-    int myColumn = 0;
+    QString myReason; ///< the parser's, the guard's or the system's words; null when nothing was refused
+    int myLine = 0;   ///< where reading ended
+    int myColumn = 0; ///< the column in that line
 };
 
 /// The document element of the file, a whole tree without a parent or siblings. Null, with the refusal, for a file that

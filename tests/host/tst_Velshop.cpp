@@ -120,6 +120,17 @@ private slots:
         QCOMPARE(answer.errors.count('\n'), 1);
     }
 
+    /// The library's log says "line 0, column 0" of a file that is missing; a person is told the file alone.
+    void missingDocument()
+    {
+        const TestAccount account;
+        for (const char* file : {"pricelist.xml", "orderingdetails.xml", "currencies.xml"})
+            QVERIFY(QFile::copy(QString(VELTARM_SOURCE_DIR "/shop/") + file, account.path(file)));
+        const VelshopAnswer answer = velshop({"list", "--account", account.path()});
+        QCOMPARE(answer.exitCode, 0);
+        QVERIFY2(answer.errors.contains("appearance.xml: ") && !answer.errors.contains("line 0"), answer.errors);
+    }
+
     void asJson()
     {
         for (const QJsonValue& article : json("list --group 23").array())

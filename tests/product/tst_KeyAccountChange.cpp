@@ -76,10 +76,10 @@ private slots:
     void damagedDocuments_data()
     {
         readTable(R"(
-            row            | file                | keptPercent | sells | hasOrderWays
-            no prices      | pricelist.xml       | -1          | no    | yes
-            half of prices | pricelist.xml       | 50          | no    | yes
-            half a details | orderingdetails.xml | 50          | yes   | no
+            row            | file                | keptPercent | sells | hasOrderWays | problem
+            no prices      | pricelist.xml       | -1          | no    | yes          | : No such
+            half of prices | pricelist.xml       | 50          | no    | yes          | , line [1-9]\d*, column [1-9]\d*:
+            half a details | orderingdetails.xml | 50          | yes   | no           | , line [1-9]\d*, column [1-9]\d*:
         )");
     }
 
@@ -97,9 +97,16 @@ private slots:
         QCOMPARE(product(103)->price(priceKey(-1, DISCOUNT_MODEL_UNDEFINED), 50, 0), 650); // also if it left
         QCOMPARE(!details()->availableOrderSources().isEmpty(), answer("hasOrderWays"));
         QVERIFY(!messages.texts().isEmpty());
+        const VelTarmLoadResult prices = VelProductRegistry::instance()->lastLoad();
+        const VelTarmLoadResult load = answer("sells") ? details()->lastLoad() : prices;
+        const QRegularExpression problem("^" + QRegularExpression::escape(account.path(cell("file"))) +
+                                         cell("problem"));
+        QVERIFY2(!load.wasRead() && load.problem().contains(problem), qPrintable(load.problem()));
+        QCOMPARE(prices.updatedProducts() == 0, !answer("sells"));
         account.write(cell("file"), whole);
         account.activate();
         QCOMPARE(picture(), before);
+        QVERIFY(details()->lastLoad().wasRead() && details()->lastLoad().problem().isNull());
     }
 
     /// The price list first and the details second, each twice, and in the middle of the other's signal.

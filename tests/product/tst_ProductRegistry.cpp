@@ -384,6 +384,26 @@ private slots:
                      !limits.filter(QString("%1:").arg(model)).isEmpty());
     }
 
+    /// Of three products one comes, one stays and one goes; they are counted when the signal goes out.
+    void lastLoad()
+    {
+        loadPriceList(myAccount, "article id='401' arrangement='trivial'\n article id='402' arrangement='trivial'");
+        const VelProductRegistry* registry = VelProductRegistry::instance();
+        const int known = registry->productList().size();
+        VelTarmLoadResult load;
+        const auto connection = connect(registry, &VelProductRegistry::priceListUpdated,
+                                        [&load, registry] { load = registry->lastLoad(); });
+        loadPriceList(myAccount, "article id='402' arrangement='trivial'\n article id='403' arrangement='trivial'\n"
+                                 "article id='403' arrangement='trivial'");
+        disconnect(connection);
+        QVERIFY(load.wasRead() && load.file() == myAccount.path("pricelist.xml"));
+        QCOMPARE(QList<int>({load.newProducts(), load.updatedProducts(), load.deprecatedProducts()}),
+                 QList<int>({1, 1, known - 1}));
+        VelProductRegistry::instance()->loadAllProducts(QFileInfo(myAccount.path())); // a folder
+        load = registry->lastLoad();
+        QCOMPARE(load.problem(), myAccount.path() + ": it is not a regular file");
+    }
+
     void productSet()
     {
         const QString pattern = "<article id='%1' arrangement='trivial'><order_txt_lines><l>TYPE=%2</l><l>SCALE=%3</l>"
