@@ -47,6 +47,11 @@ QStringList VelshopCommand::words() const
     return QString::fromLatin1(myWords).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
+QStringList VelshopCommand::options() const
+{
+    return myNeededOptions + myOptions + mySharedOptions + QStringList{VelshopOptions::STR_HELP};
+}
+
 int VelshopCommand::leastWords() const
 {
     int count = 0;
@@ -81,7 +86,7 @@ QStringList VelshopCommand::usage() const
 /// An option that the command would ignore is an error, not a wish.
 bool VelshopCommand::accepts(const VelshopCommandLine& theLine, VelshopError& theError) const
 {
-    const QStringList own = myNeededOptions + myOptions + mySharedOptions;
+    const QStringList own = options();
     for (const VelshopOption& option : VelshopOptions::all())
         if (theLine.isSet(option.myName) && !own.contains(option.myName))
             theError = QStringLiteral("--%1 does not belong to %2").arg(option.myName, QLatin1String(myName));

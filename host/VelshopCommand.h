@@ -28,11 +28,13 @@ struct VelshopCommand
     QStringList mySharedOptions; ///< that mean the same in each command
     VelshopAccountUse myAccountUse;
     const char* mySummary;     ///< what it prints, in a few words
-    const char* myDescription; ///< sentences
+    const char* myDescription; ///< sentences, in paragraphs that end with a line
     const char* myExample;     ///< one call, as typed
     VelshopReader myReader;
 
     QStringList words() const;
+    /// All that it takes, `--help` included.
+    QStringList options() const;
     int leastWords() const;
     int mostWords() const;
     /// How it is called, in parts that stay together: "velshop", "bands", "GROUP".

@@ -2,6 +2,7 @@
 
 #include "host/VelshopBands.h"
 #include "host/VelshopBill.h"
+#include "host/VelshopExitCode.h"
 #include "host/VelshopList.h"
 #include "host/VelshopOptions.h"
 #include "host/VelshopPrice.h"
@@ -72,9 +73,18 @@ const QVector<VelshopCommand>& VelshopCommands::all()
          shared(),
          OPENS_ACCOUNT,
          "the bills of a cart, one for each shipping group, and the order's totals",
-         "The cart is a JSON file such as carts/showcase.json of the sample shop, or a pipe; \"-\" is standard input. "
-         "A file that is a regular one is replaced as a whole; to a device or a pipe is written directly. A file that "
-         "is also an input is refused. An order that can't be placed has no description of discounts.",
+         "CART is a JSON file such as carts/showcase.json of the sample shop, or a pipe; \"-\" is standard input. It "
+         "has "
+         "\"items\", each with \"article\" and \"count\", for a book or calendar also \"pages\", \"maps\", \"videos\" "
+         "and "
+         "\"templates\" (uses by price class) of one piece; \"source\" with \"delivery\" and \"payment\" (the starting "
+         "choice "
+         "without them), \"express\" (\"0\", \"1\" or \"2\"), and \"coupon\" (a file, relative to the cart) with "
+         "\"couponId\".\n"
+         "An order that can't be placed is billed as far as it goes, and has no description of its discounts.\n"
+         "A regular FILE is replaced as a whole or stays as it was; a device or a pipe is written directly. A FILE "
+         "that is "
+         "also an input or the other output is refused.",
          "velshop bill cart.json --html bill.html",
          readAndRun(readBillArguments, billCart)},
         {"shop",
@@ -107,4 +117,18 @@ const VelshopCommand* VelshopCommands::find(const QString& theName)
         if (theName == QLatin1String(command.myName))
             return &command;
     return nullptr;
+}
+
+QString VelshopCommands::description()
+{
+    return QStringLiteral("The order desk of a shop for photo products: it reads the shop's price list and ordering "
+                          "details, and tells prices, discounts and bills.");
+}
+
+const QVector<VelshopCommands::ExitMeaning>& VelshopCommands::exitMeanings()
+{
+    static const QVector<ExitMeaning> meanings{{EXIT_DONE, "done"},
+                                               {EXIT_NO_PRICE, "there is no price, or the order can't be placed"},
+                                               {EXIT_BAD_INPUT, "a wrong argument or an unreadable document"}};
+    return meanings;
 }

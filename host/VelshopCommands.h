@@ -13,6 +13,17 @@ const QVector<VelshopCommand>& all();
 /// The command of a name; null when there is none.
 const VelshopCommand* find(const QString& theName);
 
+/// What velshop is, in sentences.
+QString description();
+
+/// An exit code, and what it means for all commands.
+struct ExitMeaning
+{
+    int myCode;
+    const char* myText;
+};
+const QVector<ExitMeaning>& exitMeanings();
+
 } // namespace VelshopCommands
 
 #endif

@@ -48,28 +48,25 @@ QString optionLines(const QStringList& theNames)
 
 QString VelshopHelp::general()
 {
-    QString text = QStringLiteral("The order desk of a shop for photo products.\n\n"
-                                  "Usage: velshop COMMAND [options]\n\nCommands:\n");
+    QString text = wrapped(VelshopCommands::description(), 0) +
+                   QStringLiteral("\nUsage: velshop COMMAND [options]\n\nCommands:\n");
     for (const VelshopCommand& command : VelshopCommands::all()) {
         text += wrapped(command.usage(), INDENT, 4 * INDENT);
         text += wrapped(QLatin1String(command.mySummary), 3 * INDENT);
     }
-    return text + QStringLiteral("\nOptions of every command:\n") +
-           optionLines({VelshopOptions::STR_ACCOUNT, VelshopOptions::STR_JSON, VelshopOptions::STR_LANGUAGE,
-                        VelshopOptions::STR_HELP, VelshopOptions::STR_VERSION}) +
-           QStringLiteral("\nvelshop COMMAND --help describes the command with its options and an example.\n"
-                          "Exit codes: 0 done, 1 there is no price, 2 a wrong argument or an unreadable\n"
-                          "document.\n");
+    text += QStringLiteral("\nOptions of every command:\n") + optionLines(VelshopOptions::general()) +
+            QStringLiteral("\nExit codes:\n");
+    for (const VelshopCommands::ExitMeaning& meaning : VelshopCommands::exitMeanings())
+        text += wrapped(QStringLiteral("%1 %2").arg(meaning.myCode).arg(QLatin1String(meaning.myText)), INDENT);
+    return text + QStringLiteral("\nvelshop COMMAND --help describes the command with its options and an example.\n");
 }
 
 QString VelshopHelp::of(const VelshopCommand& theCommand)
 {
-    QString text =
-        wrapped(QStringList{QStringLiteral("Usage:")} + theCommand.usage(), 0, 4 * INDENT) + QLatin1Char('\n');
-    text += wrapped(QLatin1String(theCommand.mySummary), INDENT) + QLatin1Char('\n');
-    text += wrapped(QLatin1String(theCommand.myDescription), 0);
-    text += QStringLiteral("\nOptions:\n") +
-            optionLines(theCommand.myNeededOptions + theCommand.myOptions + theCommand.mySharedOptions +
-                        QStringList{VelshopOptions::STR_HELP});
+    QString text = wrapped(QStringList{QStringLiteral("Usage:")} + theCommand.usage(), 0, 4 * INDENT);
+    text += QLatin1Char('\n') + wrapped(QLatin1String(theCommand.mySummary), INDENT);
+    for (const QString& paragraph : QString::fromUtf8(theCommand.myDescription).split(QLatin1Char('\n')))
+        text += QLatin1Char('\n') + wrapped(paragraph, 0);
+    text += QStringLiteral("\nOptions:\n") + optionLines(theCommand.options());
     return text + QStringLiteral("\nExample:\n") + wrapped(QLatin1String(theCommand.myExample), INDENT);
 }

@@ -5,8 +5,10 @@
 const QVector<VelshopOption>& VelshopOptions::all()
 {
     static const QVector<VelshopOption> options{
-        {STR_HELP, QString(), QStringLiteral("Print this help; behind a command that of the command.")},
+        {STR_HELP, QString(), QStringLiteral("Print help; behind a command, that of the command.")},
         {STR_VERSION, QString(), QStringLiteral("Print the version.")},
+        {STR_MANUAL, QString(), QStringLiteral("Print the manual page, for man.")},
+        {STR_COMPLETION, QString(), QStringLiteral("Print the completion of commands and options, for bash.")},
         {STR_ACCOUNT, QStringLiteral("DIR"),
          QStringLiteral("Folder of the key account: pricelist.xml, orderingdetails.xml, currencies.xml, and where it "
                         "has them appearance.xml and icons/payment/filenames.xml. The sample shop by default.")},
@@ -35,6 +37,11 @@ const VelshopOption& VelshopOptions::option(const QString& theName)
                                     [&](const VelshopOption& theOption) { return theOption.myName == theName; });
     Q_ASSERT(found != options.cend());
     return *found;
+}
+
+QStringList VelshopOptions::general()
+{
+    return {STR_ACCOUNT, STR_JSON, STR_LANGUAGE, STR_HELP, STR_VERSION, STR_MANUAL, STR_COMPLETION};
 }
 
 QString VelshopOptions::usage(const VelshopOption& theOption)

@@ -2,6 +2,7 @@
 #define VELSHOPOPTIONS_H
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 /// An option of the command line, whichever commands take it.
@@ -20,6 +21,8 @@ namespace VelshopOptions {
 
 inline const QString STR_HELP = QStringLiteral("help");
 inline const QString STR_VERSION = QStringLiteral("version");
+inline const QString STR_MANUAL = QStringLiteral("manual");
+inline const QString STR_COMPLETION = QStringLiteral("bash-completion");
 inline const QString STR_ACCOUNT = QStringLiteral("account");
 inline const QString STR_JSON = QStringLiteral("json");
 inline const QString STR_LANGUAGE = QStringLiteral("language");
@@ -38,6 +41,9 @@ const QVector<VelshopOption>& all();
 
 /// The option of a name, which has to be in the table.
 const VelshopOption& option(const QString& theName);
+
+/// The names of those that every command has, and those that stand without a command.
+QStringList general();
 
 /// As "--account DIR".
 QString usage(const VelshopOption& theOption);

@@ -1,7 +1,9 @@
 #include "host/VelshopAccount.h"
 #include "host/VelshopCommands.h"
+#include "host/VelshopCompletion.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopHelp.h"
+#include "host/VelshopManual.h"
 #include "host/VelshopMessages.h"
 #include "host/VelshopOptions.h"
 #include "host/VelshopStream.h"
@@ -49,34 +51,47 @@ const VelshopCommand* findCommand(const VelshopCommandLine& theLine, VelshopErro
     return command;
 }
 
-int runCommand(const VelshopCommandLine& theLine, QTextStream& theOutput, VelshopError& theError)
+int runCommand(const VelshopCommand& theCommand, const VelshopCommandLine& theLine, QTextStream& theOutput,
+               VelshopError& theError)
 {
-    const VelshopCommand* command = findCommand(theLine, theError);
-    if (!command || !command->accepts(theLine, theError))
+    if (!theCommand.accepts(theLine, theError))
         return EXIT_BAD_INPUT;
-    const VelshopRun run = command->myReader(theLine, theError);
+    const VelshopRun run = theCommand.myReader(theLine, theError);
     VelshopArguments shared;
     if (!run || !theLine.readShared(shared, theError))
         return EXIT_BAD_INPUT;
     QTranslator translator;
     installLanguage(translator, shared.myLanguage);
-    if (command->myAccountUse == OPENS_ACCOUNT && !openAccount(shared.myAccount, theError))
+    if (theCommand.myAccountUse == OPENS_ACCOUNT && !openAccount(shared.myAccount, theError))
         return EXIT_BAD_INPUT;
     return run(theOutput, theError);
 }
 
+/// What is told without any command; null when the line asks for none of it.
+QString textWithoutCommand(const VelshopCommandLine& theLine)
+{
+    if (theLine.isSet(VelshopOptions::STR_VERSION))
+        return QStringLiteral("velshop %1\n").arg(QCoreApplication::applicationVersion());
+    if (theLine.isSet(VelshopOptions::STR_MANUAL))
+        return manualPage();
+    if (theLine.isSet(VelshopOptions::STR_COMPLETION))
+        return bashCompletion();
+    const bool isGeneralHelp = theLine.isSet(VelshopOptions::STR_HELP) && theLine.command().isEmpty();
+    return isGeneralHelp ? VelshopHelp::general() : QString();
+}
+
 int answer(const VelshopCommandLine& theLine, QTextStream& theOutput, VelshopError& theError)
 {
-    if (theLine.isSet(VelshopOptions::STR_VERSION)) {
-        theOutput << QCoreApplication::applicationName() << ' ' << QCoreApplication::applicationVersion() << '\n';
+    const QString text = textWithoutCommand(theLine);
+    theOutput << text;
+    if (!text.isNull())
         return EXIT_DONE;
-    }
-    if (!theLine.isSet(VelshopOptions::STR_HELP))
-        return runCommand(theLine, theOutput, theError);
-    const VelshopCommand* command = theLine.command().isEmpty() ? nullptr : findCommand(theLine, theError);
-    if (!theError.isEmpty())
+    const VelshopCommand* command = findCommand(theLine, theError);
+    if (!command)
         return EXIT_BAD_INPUT;
-    theOutput << (command ? VelshopHelp::of(*command) : VelshopHelp::general());
+    if (!theLine.isSet(VelshopOptions::STR_HELP))
+        return runCommand(*command, theLine, theOutput, theError);
+    theOutput << VelshopHelp::of(*command);
     return EXIT_DONE;
 }
 

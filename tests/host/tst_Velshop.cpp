@@ -300,6 +300,9 @@ private slots:
             over the coupon      | 2 | linked: is also an input        | ln -s coupon linked; velshop bill bought --discounts linked
             over the price list  | 2 | is also an input                | velshop bill cart --account shop --html shop/../shop/pricelist.xml
             page over discounts  | 2 | ./new: can't take two outputs   | ln -s new linked; velshop bill cart --html linked --discounts ./new
+            completes a command  | 0 | >bands bill<                    | . <(velshop --bash-completion); COMP_WORDS=(velshop b) COMP_CWORD=1; _velshop; echo ">${COMPREPLY[*]}<"
+            completes a choice   | 0 | >CD<                            | . <(velshop --bash-completion); COMP_WORDS=(velshop --account = x price --source C) COMP_CWORD=6; _velshop; echo ">${COMPREPLY[*]}<"
+            manual               | 0 | .SS \fBlist                     | velshop --manual
             page over the answer | 2 | out: can't take two outputs     | velshop bill cart --html out >out
         )");
     }
