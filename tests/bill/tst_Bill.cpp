@@ -112,6 +112,38 @@ private slots:
         QCOMPARE(articlesOf(copy.orderPositions()), "1 3 5 2");
     }
 
+    /// The sums are those of the bill that is asked, the positions go to the bill that is named.
+    void positionsOfFees()
+    {
+        const VelTarmBill asked = bill(1, "2x2 1x9", ExpressableType_EXPRESS_1);
+        VelTarmBill named = bill(4, "1x1");
+        QCOMPARE(asked.priceOfTransfer(&named), 200);
+        QCOMPARE(asked.priceOfExpressAgio(&named), 200); // posters aren't counted
+        QCOMPARE(articlesOf(named.orderPositions()), "1 501 701");
+    }
+
+    /// A package has its price once, whatever the count; the rest goes by the piece.
+    void describedPackage()
+    {
+        VelTarmBill bill = ::bill(1, "4x8");
+        bill.initDiscountInfoForXTCI();
+        QCOMPARE(described(bill, product(4), 5), "discount_type=L discount_level=1 price=1000");
+        QCOMPARE(described(bill, product(4), 2), "discount_type=l discount_level=2 price=180");
+    }
+
+    /// In transfer model 2 one piece carries the base charge, and all others their unit charges.
+    void describedTransfer()
+    {
+        for (const bool isOneByOne : {true, false}) {
+            VelTarmBill bill = ::bill(3, "1x3 2x2");
+            bill.initDiscountInfoForXTCI();
+            const QString text = described(bill, product(2), isOneByOne ? 1 : 2).section(" price=", 1);
+            QCOMPARE(text, isOneByOne ? "1000 transfer_base_price=500"
+                                      : "2000 transfer_base_price=500 transfer_unit_price=100");
+            QCOMPARE(described(bill, product(1), 2).section(" price=", 1), "200 transfer_unit_price=50");
+        }
+    }
+
     void discountGroups()
     {
         VelTarmBill bill = ::bill(1, "");

@@ -1,4 +1,5 @@
 #include "bill/VelProductPriceCalculator.h"
+#include "frame/VelTarmGlobalStatus.h"
 #include "support/VelTestPriceList.h"
 
 namespace {
@@ -70,6 +71,32 @@ private slots:
         QCOMPARE(calculator.unitPrice(key), number("sum"));
         QCOMPARE(calculator.isOrderable(key), answer("orderable"));
         QCOMPARE(messages.texts().size(), 3 * number("warnings")); // by the parts, by the sum, and by the question
+    }
+
+    /// The message of the videos names maps, too, on purpose.
+    void messages()
+    {
+        QCOMPARE(VelProductPriceCalculator(nullptr, 0).productName(), "unknown product");
+        const MessageCatcher messages;
+        VelProductPriceCalculator(product(9141), 0, 1, 1, contents("2%1x1")).unitPrice(priceKey(0, 1));
+        const QString head("VelProductPriceCalculator::createPriceDescription(");
+        QCOMPARE(messages.texts(),
+                 (QStringList{head + "VelTemplateList) -- Content nicht spezifiziert, obwohl er es sein sollte: bloß, "
+                                     "priceclass 2%1",
+                              head + "VelAreaLocrMapList) -- Locr Karten Zuschlagsartikel nicht gefunden. bloß",
+                              head + "VelAreaLocrMapList) -- Video Zuschlagsartikel nicht gefunden. bloß"}));
+    }
+
+    /// Without a key, prices are those of the global status.
+    void globalKey()
+    {
+        const MessageCatcher ignored; // there are no ordering details
+        VelTarmGlobalStatus::instance()->setOrderSource(VelOrderSource::cdPointOfSale());
+        const VelProductPriceCalculator book(product(9231), 4, 1, 1, contents("2ax1"));
+        QCOMPARE(joined({book.priceOfProduct(), book.priceOfPagePackages(), book.priceOfContents(),
+                         book.priceOfLocrAreas(), book.priceOfVideoAreas(), book.unitPrice()}),
+                 "900 60 90 150 70 1270");
+        QVERIFY(book.isOrderable());
     }
 
 private:
