@@ -3,6 +3,7 @@
 
 #include <QtGlobal>
 
+#include <array>
 #include <limits>
 
 /// What a bill or an order comes to, in cents. The parts need not add up to the total: a coupon never takes it below
@@ -27,13 +28,18 @@ struct VelTarmOrderAmounts
         myTotal += theOther.myTotal;
     }
 
-    /// Whether 32 bits hold each amount, and what they add up to on the way to the total. Bills reckon with 32 bits and
-    /// wrap around: amounts that don't fit are not to be believed.
-    bool fit() const
+    /// Each amount, and what they add up to on the way to the total.
+    std::array<qint64, 8> steps() const
     {
         const qint64 charges = myItems + myShipping + myPayment + myExpress;
-        for (const qint64 amount :
-             {myItems, myShipping, myPayment, myCoupon, myExpress, myTotal, charges, charges + myCoupon})
+        return {myItems, myShipping, myPayment, myCoupon, myExpress, myTotal, charges, charges + myCoupon};
+    }
+
+    /// Whether 32 bits hold each step. Bills reckon with 32 bits and wrap around: amounts that don't fit are not to be
+    /// believed.
+    bool fit() const
+    {
+        for (const qint64 amount : steps())
             if (!fits(amount))
                 return false;
         return true;

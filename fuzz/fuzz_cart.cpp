@@ -1,4 +1,4 @@
-#include "bill/VelTarmBill.h"
+#include "bill/VelTarmOrder.h"
 #include "fuzz/FuzzBill.h"
 #include "fuzz/FuzzShop.h"
 #include "host/VelshopBill.h"
@@ -26,12 +26,11 @@ void copyCoupons()
 
 int askBills(const VelshopCart& theCart)
 {
+    for (const VelTarmOrderBill& bill : VelTarmOrder(theCart.myItems, theCart.myStatus, theCart.myExpress).bills())
+        askBill(bill.bill());
     int pieces = 0;
-    for (auto group = theCart.myGroups.cbegin(); group != theCart.myGroups.cend(); ++group) {
-        askBill(VelTarmBill(group.key(), *group, theCart.myExpress, theCart.myStatus));
-        for (const int count : group->items())
-            pieces += count;
-    }
+    for (const int count : theCart.myItems.items())
+        pieces += count;
     return pieces;
 }
 

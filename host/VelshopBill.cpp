@@ -10,6 +10,7 @@
 #include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopOptions.h"
+#include "host/VelshopOrder.h"
 #include "host/VelshopOutputFile.h"
 #include "product/VelProductAbstract.h"
 
@@ -19,11 +20,11 @@
 
 namespace {
 
-QList<QStringList> orderTexts(const VelshopCart& theCart)
+QList<QStringList> orderTexts(const VelTarmOrder& theOrder)
 {
     QList<QStringList> texts;
-    for (const VelOrderStatistic& group : theCart.myGroups)
-        for (const VelProductAbstract* product : group.products())
+    for (const VelTarmOrderBill& bill : theOrder.bills())
+        for (const VelProductAbstract* product : bill.cart().products())
             texts.append(product->toOrderTxt());
     return texts;
 }
@@ -55,14 +56,14 @@ bool areOutputsSafe(const VelshopBillArguments& theArguments, const VelshopCart&
     return VelshopOutputFile::areSafe({theArguments.myHtmlFile, theArguments.myDiscountsFile}, inputs, theError);
 }
 
-bool writeFiles(const VelshopBillArguments& theArguments, const VelshopCart& theCart, const VelshopBillSheet& theSheet,
-                VelshopError& theError)
+bool writeFiles(const VelshopBillArguments& theArguments, const VelTarmOrder& theOrder,
+                const VelshopBillSheet& theSheet, VelshopError& theError)
 {
     if (!theArguments.myHtmlFile.isEmpty() &&
         !VelshopOutputFile::write(theArguments.myHtmlFile, billPage(theSheet), theError))
         return false;
     return theArguments.myDiscountsFile.isEmpty() || !theSheet.isOrderable() ||
-           VelshopOutputFile::write(theArguments.myDiscountsFile, discountDescription(theCart), theError);
+           VelshopOutputFile::write(theArguments.myDiscountsFile, discountDescription(theOrder), theError);
 }
 
 } // namespace
@@ -78,11 +79,14 @@ bool readBillArguments(const VelshopCommandLine& theLine, VelshopBillArguments& 
 int billCart(const VelshopBillArguments& theArguments, QTextStream& theOutput, VelshopError& theError)
 {
     VelshopCart cart;
-    VelshopBillSheet sheet;
-    if (!readCart(theArguments.myCart, cart, theError) || !areOutputsSafe(theArguments, cart, theError) ||
-        !makeBillSheet(cart, sheet, theError) || !writeFiles(theArguments, cart, sheet, theError))
+    if (!readCart(theArguments.myCart, cart, theError) || !areOutputsSafe(theArguments, cart, theError))
         return EXIT_BAD_INPUT;
-    const QList<QStringList> texts = theArguments.myHasOrderText ? orderTexts(cart) : QList<QStringList>();
+    const std::optional<VelTarmOrder> order = makeOrder(cart, theError);
+    VelshopBillSheet sheet;
+    if (!order || !makeBillSheet(*order, cart.myFile, sheet, theError) ||
+        !writeFiles(theArguments, *order, sheet, theError))
+        return EXIT_BAD_INPUT;
+    const QList<QStringList> texts = theArguments.myHasOrderText ? orderTexts(*order) : QList<QStringList>();
     if (theArguments.myIsJson)
         printJson(sheet, texts, theOutput);
     else

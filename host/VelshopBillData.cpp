@@ -51,6 +51,24 @@ QJsonObject toJson(const VelshopBillGroup& theGroup)
             {QStringLiteral("sums"), isOrderable ? QJsonValue(toJson(theGroup.mySums)) : QJsonValue()}};
 }
 
+/// What is left is told of a coupon of value alone.
+QJsonObject toJson(const VelshopBillCoupon& theCoupon)
+{
+    QJsonArray shares;
+    for (const VelshopBillCoupon::Share& share : theCoupon.myShares)
+        shares.append(QJsonObject{{QStringLiteral("group"), share.myGroup},
+                                  {QStringLiteral("name"), share.myName},
+                                  {QStringLiteral("amount"), share.myAmount}});
+    const bool hasRest = theCoupon.myIsSpent && theCoupon.myIsValid && theCoupon.myType == COUPON_TYPE_VALUE;
+    return {
+        {QStringLiteral("id"), theCoupon.myId},
+        {QStringLiteral("valid"), theCoupon.myIsValid},
+        {QStringLiteral("campaign"), theCoupon.myCampaign.isNull() ? QJsonValue() : QJsonValue(theCoupon.myCampaign)},
+        {QStringLiteral("type"), VelshopWords::couponType(theCoupon.myType)},
+        {QStringLiteral("shares"), shares},
+        {QStringLiteral("left"), hasRest ? QJsonValue(theCoupon.myLeft) : QJsonValue()}};
+}
+
 } // namespace
 
 QJsonObject billData(const VelshopBillSheet& theSheet)
@@ -64,7 +82,7 @@ QJsonObject billData(const VelshopBillSheet& theSheet)
                      {QStringLiteral("groups"), groups},
                      {QStringLiteral("orderable"), isOrderable},
                      {QStringLiteral("sums"), isOrderable ? QJsonValue(toJson(theSheet.mySums)) : QJsonValue()}};
-    if (!theSheet.myCoupon.isEmpty())
-        json.insert(QStringLiteral("coupon"), theSheet.myCoupon);
+    if (theSheet.myCoupon)
+        json.insert(QStringLiteral("coupon"), toJson(*theSheet.myCoupon));
     return json;
 }

@@ -1,8 +1,7 @@
 #include "host/VelshopBillDiscounts.h"
 
-#include "bill/VelTarmBill.h"
 #include "bill/VelTarmBillPositionAbstract.h"
-#include "host/VelshopCart.h"
+#include "bill/VelTarmOrder.h"
 #include "product/VelProductAbstract.h"
 
 #include <QDomDocument>
@@ -55,14 +54,13 @@ void writeProduct(VelTarmBill& theBill, VelProductAbstract* theProduct, QXmlStre
     theWriter.writeEndElement();
 }
 
-/// The description changes the bill, so it has one of its own.
-void writeGroup(int theId, const VelOrderStatistic& theStatistic, const VelshopCart& theCart,
-                QXmlStreamWriter& theWriter)
+/// The description changes the bill, so it works on a copy.
+void writeGroup(const VelTarmOrderBill& theBill, QXmlStreamWriter& theWriter)
 {
-    VelTarmBill bill(theId, theStatistic, theCart.myExpress, theCart.myStatus);
+    VelTarmBill bill(theBill.bill());
     bill.initDiscountInfoForXTCI();
     theWriter.writeStartElement(STR_GROUP);
-    theWriter.writeAttribute(STR_ID, QString::number(theId));
+    theWriter.writeAttribute(STR_ID, QString::number(theBill.group()));
     for (VelProductAbstract* product : productsOf(bill))
         writeProduct(bill, product, theWriter);
     theWriter.writeEndElement();
@@ -70,15 +68,15 @@ void writeGroup(int theId, const VelOrderStatistic& theStatistic, const VelshopC
 
 } // namespace
 
-QByteArray discountDescription(const VelshopCart& theCart)
+QByteArray discountDescription(const VelTarmOrder& theOrder)
 {
     QByteArray bytes;
     QXmlStreamWriter writer(&bytes);
     writer.setAutoFormatting(true);
     writer.writeStartDocument();
     writer.writeStartElement(STR_DISCOUNTS);
-    for (auto group = theCart.myGroups.cbegin(); group != theCart.myGroups.cend(); ++group)
-        writeGroup(group.key(), group.value(), theCart, writer);
+    for (const VelTarmOrderBill& bill : theOrder.bills())
+        writeGroup(bill, writer);
     writer.writeEndDocument();
     return bytes;
 }

@@ -37,8 +37,8 @@ public:
         start("body");
         text("h1", QStringLiteral("Order"));
         text("p", QStringLiteral("By ") + theSheet.myHead);
-        if (!theSheet.myCoupon.isEmpty())
-            text("p", QStringLiteral("Coupon ") + theSheet.myCoupon);
+        if (theSheet.myCoupon)
+            text("p", QStringLiteral("Coupon ") + theSheet.myCoupon->text());
         for (const VelshopBillGroup& group : theSheet.myGroups)
             writeGroup(group);
         text("h2", QStringLiteral("Total of the order"));

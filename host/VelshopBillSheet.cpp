@@ -1,18 +1,13 @@
 #include "host/VelshopBillSheet.h"
 
-#include "bill/VelCoupon.h"
-#include "bill/VelTarmBill.h"
-#include "bill/VelTarmBillPosition.h"
+#include "bill/VelTarmBillPositionAbstract.h"
+#include "bill/VelTarmOrder.h"
 #include "host/VelshopBillMoney.h"
-#include "host/VelshopCart.h"
+#include "host/VelshopProblems.h"
 #include "host/VelshopWords.h"
 #include "ordering/VelOrderingDetails.h"
 #include "ordering/VelTarmShippingGroupManager.h"
 #include "product/VelProductAbstract.h"
-#include "product/VelProductRegistry.h"
-#include "sibling/VelXMLLoader.h"
-
-#include <memory>
 
 namespace {
 
@@ -25,198 +20,78 @@ QString daysText(const VelTarmShippingTime& theTime)
 }
 
 /// An article that can't go by express goes at the standard pace.
-QString daysOf(const VelProductAbstract& theProduct, const VelshopCart& theCart)
+QString daysOf(const VelProductAbstract& theProduct, const VelTarmOrder& theOrder)
 {
-    const VelDeliveryType delivery = theCart.myStatus.deliveryType();
-    const bool isExpress = theProduct.isExpressable(delivery, theCart.myExpress);
-    return daysText(
-        theProduct.shippingTime(delivery, isExpress ? theCart.myExpress : VelExpressType(ExpressableType_STANDARD)));
+    const VelDeliveryType delivery = theOrder.status().deliveryType();
+    const bool isExpress = theProduct.isExpressable(delivery, theOrder.expressType());
+    return daysText(theProduct.shippingTime(delivery, isExpress ? theOrder.expressType()
+                                                                : VelExpressType(ExpressableType_STANDARD)));
 }
 
-VelshopBillLine lineOf(const VelTarmBillPositionAbstract& thePosition, const VelshopCart& theCart)
+VelshopBillLine lineOf(const VelTarmBillPositionAbstract& thePosition, const VelTarmOrder& theOrder)
 {
     const VelProductAbstract& product = *thePosition.product();
-    return {product.articleID(),     thePosition.productName(),   thePosition.countItems(),
-            thePosition.unitPrice(), thePosition.nonOfferPrice(), thePosition.positionPrice(),
-            thePosition.isPackage(), thePosition.discountModel(), thePosition.discountLevel(),
-            daysOf(product, theCart)};
+    return {product.articleID(),      thePosition.productName(),   thePosition.countItems(),
+            thePosition.unitPrice(),  thePosition.nonOfferPrice(), thePosition.positionPrice(),
+            thePosition.isPackage(),  thePosition.discountModel(), thePosition.discountLevel(),
+            daysOf(product, theOrder)};
 }
 
-/// The sum of the positions without wrapping around.
-qint64 itemsOf(const VelTarmBill& theBill)
+QString groupName(int theId)
 {
-    qint64 sum = 0;
-    for (const VelTarmBillPositionAbstract* position : theBill.orderPositions())
-        sum += static_cast<qint64>(position->unitPrice()) * position->unitCount();
-    return sum;
+    return VelTarmShippingGroupManager::instance()->shippingGroupName(theId);
 }
 
-/// The most that a coupon can take off for one free piece.
-qint64 highestUnitPrice(const VelTarmBill& theBill)
+QString headOf(const VelTarmOrder& theOrder)
 {
-    int highest = 0;
-    for (const VelTarmBillPositionAbstract* position : theBill.orderPositions())
-        highest = qMax(highest, position->unitPrice());
-    return highest;
+    const VelPaymentType payment = theOrder.status().payment();
+    const QString text =
+        QStringLiteral("%1; payment %2 (%3); ")
+            .arg(VelshopWords::orderSource(theOrder.status().orderSource()), QString::number(payment),
+                 VelOrderingDetails::instance()->nameOfOrderingDetail(PAYMENT_CLASS_PAY_METHODS, payment));
+    return text + (theOrder.hasExpress() ? VelshopWords::express(theOrder.expressType())
+                                         : theOrder.expressType().humanReadableName());
 }
 
-/// Makes the bills one after the other: the coupon counts on the first on which it takes anything off.
-class SheetMaker
+VelshopBillGroup groupOf(const VelTarmOrderBill& theBill, const VelTarmOrder& theOrder)
 {
-public:
-    SheetMaker(const VelshopCart& theCart, VelshopBillSheet& theSheet) : myCart(theCart), mySheet(theSheet) {}
+    VelshopBillGroup group{theBill.group(), groupName(theBill.group()), {}, {}, {}};
+    for (const VelTarmBillPositionAbstract* position : theBill.bill().orderPositions())
+        if (VelshopProblems::hasPrice(position->product(), theOrder))
+            group.myLines.append(lineOf(*position, theOrder));
+    group.myProblems = VelshopProblems::texts(theBill.objections(), theOrder);
+    group.mySums = VelshopBillSums(theBill.amounts());
+    return group;
+}
 
-    bool make(VelshopError& theError)
-    {
-        if (!readCoupon(theError))
-            return false;
-        mySheet.myHead = head();
-        for (auto group = myCart.myGroups.cbegin(); group != myCart.myGroups.cend(); ++group)
-            if (!addGroup(group.key(), group.value(), theError))
-                return false;
-        if (!mySheet.mySums.fit())
-            theError = tooLarge(QStringLiteral("the order"));
-        mySheet.myCoupon = couponText();
-        return theError.isEmpty();
-    }
+/// The desk takes one coupon for an order.
+VelshopBillCoupon couponOf(const VelTarmOrder& theOrder)
+{
+    const VelTarmOrderCoupon& used = theOrder.coupons().first();
+    const VelCoupon& coupon = used.coupon();
+    VelshopBillCoupon result{
+        coupon.id(), coupon.campaign(), coupon.type(), coupon.isValid(), theOrder.canBePlaced(), {}, 0};
+    if (!theOrder.canBePlaced())
+        return result;
+    result.myLeft = used.left();
+    for (const VelTarmOrderBill& bill : theOrder.bills())
+        if (const int share = bill.couponShares().first())
+            result.myShares.append({bill.group(), groupName(bill.group()), share});
+    return result;
+}
 
-private:
-    VelshopError tooLarge(const QString& theWhat) const
-    {
-        return {myCart.myFile, 0, 0,
-                QStringLiteral("items: an amount of %1 is beyond what 32 bits of cents can hold").arg(theWhat)};
-    }
-
-    QString head() const
-    {
-        const VelPaymentType payment = myCart.myStatus.payment();
-        QString text = VelshopWords::orderSource(myCart.myStatus.orderSource());
-        text += QStringLiteral("; payment %1 (%2)")
-                    .arg(QString::number(payment),
-                         VelOrderingDetails::instance()->nameOfOrderingDetail(PAYMENT_CLASS_PAY_METHODS, payment));
-        if (myCart.myExpress == VelExpressType(ExpressableType_STANDARD))
-            return text + QStringLiteral("; ") + myCart.myExpress.humanReadableName();
-        return text + QStringLiteral("; express %1").arg(myCart.myExpress.value() - ExpressableType_STANDARD);
-    }
-
-    bool readCoupon(VelshopError& theError)
-    {
-        if (myCart.myCouponFile.isEmpty())
-            return true;
-        const QFileInfo file(myCart.myCouponFile);
-        const QDomElement document = VelXMLLoader::loadDocumentElement(file);
-        if (document.isNull()) {
-            theError = {myCart.myFile, 0, 0, QStringLiteral("coupon: ") + VelTarmLoadResult(file, document).problem()};
-            return false;
-        }
-        myCoupon = std::make_unique<VelCoupon>(myCart.myCouponId, document);
-        return true;
-    }
-
-    bool addGroup(int theId, const VelOrderStatistic& theStatistic, VelshopError& theError)
-    {
-        const VelTarmBill bill(theId, theStatistic, myCart.myExpress, myCart.myStatus);
-        VelshopBillGroup group{theId, VelTarmShippingGroupManager::instance()->shippingGroupName(theId), {}, {}, {}};
-        for (const VelTarmBillPositionAbstract* position : bill.orderPositions())
-            if (qobject_cast<const VelTarmBillPosition*>(position))
-                group.myLines.append(lineOf(*position, myCart));
-        group.myProblems = problemsOf(bill, theStatistic);
-        mySheet.myProblems += group.myProblems;
-        group.mySums.myItems = itemsOf(bill);
-        bool fits = group.mySums.fit();
-        if (fits && group.myProblems.isEmpty())
-            fits = addSums(bill, group.mySums);
-        mySheet.myGroups.append(group);
-        if (!fits)
-            theError = tooLarge(QStringLiteral("shipping group %1").arg(theId));
-        return fits;
-    }
-
-    /// The order's sum is that of its bills: each shipping group travels in a parcel of its own and is charged on its
-    /// own, so the payment fee is due once for each bill that comes to anything.
-    bool addSums(const VelTarmBill& theBill, VelshopBillSums& theSums)
-    {
-        if (!couponFits(theBill))
-            return false;
-        const int coupon = couponFor(theBill);
-        theSums.myShipping = theBill.transferFee();
-        theSums.myPayment = theBill.priceOfPaymentAgio(coupon);
-        theSums.myCoupon = coupon;
-        theSums.myExpress = theBill.priceOfExpressAgio(nullptr);
-        theSums.myTotal = theBill.totalFinalCost(coupon);
-        mySheet.mySums.add(theSums);
-        return theSums.fit();
-    }
-
-    bool canCount() const { return myCoupon && myCoupon->isValid() && myCouponGroup.isNull(); }
-
-    /// Whether an int holds what the coupon reckons with on its way.
-    bool couponFits(const VelTarmBill& theBill) const
-    {
-        if (!canCount())
-            return true;
-        const qint64 value = myCoupon->totalValueOfOrder(theBill);
-        const qint64 free = myCoupon->freeQuantity() * highestUnitPrice(theBill) + theBill.transferFee();
-        return VelshopBillMoney::fits(value * myCoupon->discountPercentage()) &&
-               VelshopBillMoney::fits(value + myCoupon->maximumDiscountValue()) &&
-               (myCoupon->type() != COUPON_TYPE_QUANTITY || VelshopBillMoney::fits(free));
-    }
-
-    int couponFor(const VelTarmBill& theBill)
-    {
-        const int discount = canCount() ? myCoupon->discountForOrder(theBill, 0) : 0;
-        if (discount != 0)
-            myCouponGroup = VelTarmShippingGroupManager::instance()->shippingGroupName(theBill.shippingGroup()) +
-                            QStringLiteral(" (%1)").arg(theBill.shippingGroup());
-        return discount;
-    }
-
-    QString couponText() const
-    {
-        if (!myCoupon)
-            return QString();
-        QString text = myCoupon->id() + QStringLiteral(": ");
-        if (!myCoupon->isValid())
-            return text + QStringLiteral("not valid, it lacks a campaign or a known type");
-        text += QStringLiteral("valid, campaign %1, ").arg(myCoupon->campaign());
-        return text + (myCouponGroup.isNull() ? QStringLiteral("takes nothing off this order")
-                                              : QStringLiteral("counts on ") + myCouponGroup);
-    }
-
-    QStringList problemsOf(const VelTarmBill& theBill, const VelOrderStatistic& theStatistic) const
-    {
-        QStringList problems;
-        for (const VelProductAbstract* product : theStatistic.products()) {
-            if (!product->isOrderable())
-                problems.append(nameOf(product) + QStringLiteral(": the shop doesn't sell its shipping group"));
-            else if (!theBill.billPosition(product))
-                problems.append(noPrice(product));
-        }
-        // A fee without a price would lower the total by one cent.
-        if (theBill.transferFee() == -1)
-            problems.append(noPrice(theBill.transferProduct()));
-        if (theBill.priceOfExpressAgio(nullptr) == -1)
-            problems.append(
-                noPrice(VelProductRegistry::instance()->expressAgioProduct(theBill.shippingGroup(), myCart.myExpress)));
-        return problems;
-    }
-
-    QString nameOf(const VelProductAbstract* theProduct) const
-    {
-        return QString::number(theProduct->articleID()) + QLatin1Char(' ') + theProduct->name();
-    }
-
-    QString noPrice(const VelProductAbstract* theProduct) const
-    {
-        return nameOf(theProduct) + QStringLiteral(": no price by ") +
-               VelshopWords::orderSource(myCart.myStatus.orderSource());
-    }
-
-    const VelshopCart& myCart;
-    VelshopBillSheet& mySheet;
-    std::unique_ptr<VelCoupon> myCoupon;
-    QString myCouponGroup; ///< where the coupon counted, null as long as it did not
-};
+VelshopBillSheet sheetOf(const VelTarmOrder& theOrder)
+{
+    VelshopBillSheet sheet;
+    sheet.myHead = headOf(theOrder);
+    if (!theOrder.coupons().isEmpty())
+        sheet.myCoupon = couponOf(theOrder);
+    for (const VelTarmOrderBill& bill : theOrder.bills())
+        sheet.myGroups.append(groupOf(bill, theOrder));
+    sheet.mySums = VelshopBillSums(theOrder.amounts());
+    sheet.myProblems = VelshopProblems::texts(theOrder.objections(), theOrder);
+    return sheet;
+}
 
 } // namespace
 
@@ -240,27 +115,50 @@ QList<VelshopBillSums::Row> VelshopBillSums::rows() const
             {QStringLiteral("total"), static_cast<int>(myTotal)}};
 }
 
-void VelshopBillSums::add(const VelshopBillSums& theOther)
+bool VelshopBillSums::fitInBoth() const
 {
-    myItems += theOther.myItems;
-    myShipping += theOther.myShipping;
-    myPayment += theOther.myPayment;
-    myCoupon += theOther.myCoupon;
-    myExpress += theOther.myExpress;
-    myTotal += theOther.myTotal;
-}
-
-bool VelshopBillSums::fit() const
-{
-    const qint64 charges = myItems + myShipping + myPayment + myExpress;
-    for (const qint64 amount :
-         {myItems, myShipping, myPayment, myCoupon, myExpress, myTotal, charges, charges + myCoupon})
+    for (const qint64 amount : steps())
         if (!VelshopBillMoney::fits(amount))
             return false;
     return true;
 }
 
-bool makeBillSheet(const VelshopCart& theCart, VelshopBillSheet& theSheet, VelshopError& theError)
+QString VelshopBillCoupon::text() const
 {
-    return SheetMaker(theCart, theSheet).make(theError);
+    QString text = myId + QStringLiteral(": ");
+    if (!myIsValid)
+        return text + QStringLiteral("not valid, it lacks a campaign or a known type");
+    text += QStringLiteral("valid, campaign ") + myCampaign;
+    if (!myIsSpent)
+        return text;
+    return text + QStringLiteral(", ") + (myShares.isEmpty() ? QStringLiteral("takes nothing off this order") : use());
+}
+
+QString VelshopBillCoupon::use() const
+{
+    QStringList uses;
+    for (const Share& share : myShares) {
+        const QString group = QStringLiteral("%1 (%2)").arg(share.myName).arg(share.myGroup);
+        uses.append(myType == COUPON_TYPE_VALUE
+                        ? QStringLiteral("%1 on %2").arg(VelshopBillMoney::text(share.myAmount, false), group)
+                        : QStringLiteral("counts on ") + group);
+    }
+    const QString left = QStringLiteral("; %1 left").arg(VelshopBillMoney::text(myLeft, false));
+    return uses.join(QStringLiteral(", ")) + (myType == COUPON_TYPE_VALUE ? left : QString());
+}
+
+bool makeBillSheet(const VelTarmOrder& theOrder, const QString& theCart, VelshopBillSheet& theSheet,
+                   VelshopError& theError)
+{
+    theSheet = sheetOf(theOrder);
+    QString tooLarge;
+    for (const VelshopBillGroup& group : qAsConst(theSheet.myGroups))
+        if (tooLarge.isEmpty() && group.myProblems.isEmpty() && !group.mySums.fitInBoth())
+            tooLarge = QStringLiteral("shipping group %1").arg(group.myId);
+    if (tooLarge.isEmpty() && theSheet.isOrderable() && !theSheet.mySums.fitInBoth())
+        tooLarge = QStringLiteral("the order");
+    if (!tooLarge.isEmpty())
+        theError = {theCart, 0, 0,
+                    QStringLiteral("items: an amount of %1 is beyond what 32 bits of cents can hold").arg(tooLarge)};
+    return tooLarge.isEmpty();
 }

@@ -1,6 +1,7 @@
 #ifndef VELSHOPBILLSHEET_H
 #define VELSHOPBILLSHEET_H
 
+#include "bill/VelTarmOrderAmounts.h"
 #include "frame/VelEnumerations.h"
 #include "host/VelshopError.h"
 
@@ -8,7 +9,9 @@
 #include <QString>
 #include <QStringList>
 
-struct VelshopCart;
+#include <optional>
+
+class VelTarmOrder;
 
 /// One position of a bill.
 struct VelshopBillLine
@@ -29,14 +32,10 @@ struct VelshopBillLine
 };
 
 /// The amounts of a bill in cents. The total may differ from their sum: a coupon never takes it below 0.
-struct VelshopBillSums
+struct VelshopBillSums : VelTarmOrderAmounts
 {
-    qint64 myItems = 0;
-    qint64 myShipping = 0;
-    qint64 myPayment = 0;
-    qint64 myCoupon = 0;
-    qint64 myExpress = 0;
-    qint64 myTotal = 0;
+    VelshopBillSums() = default;
+    explicit VelshopBillSums(const VelTarmOrderAmounts& theAmounts) : VelTarmOrderAmounts(theAmounts) {}
 
     struct Row
     {
@@ -44,11 +43,9 @@ struct VelshopBillSums
         int myAmount;
     };
     QList<Row> rows() const;
-    void add(const VelshopBillSums& theOther);
 
-    /// The library's amounts wrap around; at a desk an amount that no int can hold, in the one currency or in the
-    /// other, is not to be believed.
-    bool fit() const;
+    /// Whether an int holds each of them in the other currency, too.
+    bool fitInBoth() const;
 };
 
 /// The bill of one shipping group.
@@ -61,20 +58,47 @@ struct VelshopBillGroup
     VelshopBillSums mySums; ///< without a problem only
 };
 
+/// The coupon of an order, and what it takes off.
+struct VelshopBillCoupon
+{
+    /// What a bill adds because of it, in cents; negative where something is taken off.
+    struct Share
+    {
+        int myGroup;
+        QString myName;
+        int myAmount;
+    };
+
+    QString myId;
+    QString myCampaign; ///< null where the coupon names none
+    VelCouponType myType = COUPON_TYPE_UNKNOWN;
+    bool myIsValid = false;
+    bool myIsSpent = false; ///< the order can be placed; without that there are no shares
+    QList<Share> myShares;  ///< of the bills on which it counts
+    int myLeft = 0;         ///< cents of a coupon of value that aren't spent
+
+    /// How it counts, as "V50: valid, campaign 7, -9,45 € on Fotoabzüge (1), -40,55 € on Fotobücher (4); 0,00 € left".
+    QString text() const;
+
+private:
+    QString use() const;
+};
+
 /// A whole order, ready to be printed.
 struct VelshopBillSheet
 {
-    QString myHead;   ///< order source, payment and express
-    QString myCoupon; ///< how the coupon counts, empty without one
+    QString myHead; ///< order source, payment and express
+    std::optional<VelshopBillCoupon> myCoupon;
     QList<VelshopBillGroup> myGroups;
     VelshopBillSums mySums; ///< of an order that can be placed
-    QStringList myProblems; ///< of all groups
+    QStringList myProblems; ///< of the order and all groups
 
     bool isOrderable() const { return myProblems.isEmpty(); }
 };
 
-/// Makes a bill for each shipping group of the cart. False, with the error in one line, when the coupon can't be read
-/// or an amount is too large.
-bool makeBillSheet(const VelshopCart& theCart, VelshopBillSheet& theSheet, VelshopError& theError);
+/// The order in words. False, with the error in one line that names the cart, when an amount is too large for one of
+/// the currencies.
+bool makeBillSheet(const VelTarmOrder& theOrder, const QString& theCart, VelshopBillSheet& theSheet,
+                   VelshopError& theError);
 
 #endif

@@ -53,8 +53,8 @@ void printGroup(const VelshopBillGroup& theGroup, QTextStream& theOutput)
 void VelshopBillText::print(const VelshopBillSheet& theSheet, QTextStream& theOutput)
 {
     theOutput << "Order by " << theSheet.myHead << '\n';
-    if (!theSheet.myCoupon.isEmpty())
-        theOutput << "Coupon " << theSheet.myCoupon << '\n';
+    if (theSheet.myCoupon)
+        theOutput << "Coupon " << theSheet.myCoupon->text() << '\n';
     for (const VelshopBillGroup& group : theSheet.myGroups)
         printGroup(group, theOutput);
     theOutput << '\n' << (theSheet.isOrderable() ? "Order" : "Order: NOT ORDERABLE") << '\n';

@@ -200,7 +200,7 @@ private:
         if (myPieces > MOST_PIECES)
             myReader.refuse(thePlace, QStringLiteral("the cart comes to more than %1 pieces").arg(MOST_PIECES));
         if (!myReader.isRefused() && thePieces > 0)
-            myCart.myGroups[theProduct->shippingGroupId()].add(theProduct, static_cast<int>(thePieces));
+            myCart.myItems.add(theProduct, static_cast<int>(thePieces));
     }
 
     VelshopJsonReader& myReader;

@@ -6,7 +6,6 @@
 #include "frame/VelTarmStatus.h"
 #include "host/VelshopError.h"
 
-#include <QMap>
 #include <QString>
 
 /// What a customer wants: a JSON file with an order source (`source` with `delivery`, by default the starting choice),
@@ -19,8 +18,8 @@ struct VelshopCart
     QString myFile;
     VelTarmStatus myStatus; ///< order source and payment
     VelExpressType myExpress = VelExpressType(ExpressableType_STANDARD);
-    QMap<int, VelOrderStatistic> myGroups; ///< the pieces by shipping group; an add-on lies in the group of its own
-    QString myCouponFile;                  ///< empty without a coupon
+    VelOrderStatistic myItems; ///< all pieces, with the add-ons that their parts cost
+    QString myCouponFile;      ///< empty without a coupon
     QString myCouponId;
 };
 

@@ -4,6 +4,7 @@
 #include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopOptions.h"
+#include "host/VelshopProblems.h"
 #include "host/VelshopTable.h"
 #include "host/VelshopWords.h"
 #include "ordering/VelTarmShippingGroupManager.h"
@@ -31,11 +32,27 @@ QString typeOf(const VelProductAbstract* theProduct)
     return addOn ? QStringLiteral("add-on %1").arg(addOn->productClass()) : theProduct->orderTxtType();
 }
 
-/// Of one piece under the shop's starting choice.
-QString priceText(const VelProductAbstract* theProduct)
+/// The shop's starting choice.
+VelOrderSource chosenSource()
 {
-    const int price = theProduct->price();
-    return price == -1 ? QStringLiteral("-") : VelshopWords::money(price);
+    return VelTarmGlobalStatus::instance()->orderSource();
+}
+
+bool isOrderableHere(VelProductAbstract* theProduct)
+{
+    return VelshopProblems::isOrderable(theProduct, chosenSource());
+}
+
+/// Of one piece.
+QString priceText(VelProductAbstract* theProduct)
+{
+    const bool hasPrice = VelshopProblems::hasPrice(theProduct, 1, chosenSource());
+    return hasPrice ? VelshopWords::money(theProduct->price()) : QStringLiteral("-");
+}
+
+QString answerText(bool theAnswer)
+{
+    return theAnswer ? QStringLiteral("yes") : QStringLiteral("no");
 }
 
 VelProductList articlesToList(const VelshopListArguments& theArguments)
@@ -51,34 +68,35 @@ VelProductList articlesToList(const VelshopListArguments& theArguments)
     return articles;
 }
 
-QJsonObject toJson(const VelProductAbstract* theProduct)
+QJsonObject toJson(VelProductAbstract* theProduct)
 {
-    return {
-        {QStringLiteral("id"), theProduct->articleID()},
-        {QStringLiteral("name"), theProduct->name()},
-        {QStringLiteral("editorName"), theProduct->editorName()},
-        {QStringLiteral("group"), theProduct->shippingGroupId()},
-        {QStringLiteral("groupName"), groupName(theProduct)},
-        {QStringLiteral("type"), typeOf(theProduct)},
-        {QStringLiteral("price"), theProduct->price() == -1 ? QJsonValue() : QJsonValue(theProduct->price())},
-        {QStringLiteral("orderSource"), VelshopWords::orderSourceData(VelTarmGlobalStatus::instance()->orderSource())},
-        {QStringLiteral("orderable"), theProduct->isOrderable()}};
+    const bool hasPrice = VelshopProblems::hasPrice(theProduct, 1, chosenSource());
+    return {{QStringLiteral("id"), theProduct->articleID()},
+            {QStringLiteral("name"), theProduct->name()},
+            {QStringLiteral("editorName"), theProduct->editorName()},
+            {QStringLiteral("group"), theProduct->shippingGroupId()},
+            {QStringLiteral("groupName"), groupName(theProduct)},
+            {QStringLiteral("type"), typeOf(theProduct)},
+            {QStringLiteral("price"), hasPrice ? QJsonValue(theProduct->price()) : QJsonValue()},
+            {QStringLiteral("orderable"), theProduct->isOrderable()},
+            {QStringLiteral("orderableHere"), isOrderableHere(theProduct)}};
 }
 
-QStringList toRow(const VelProductAbstract* theProduct)
+QStringList toRow(VelProductAbstract* theProduct)
 {
     return {QString::number(theProduct->articleID()),
             theProduct->name(),
             QStringLiteral("%1 %2").arg(theProduct->shippingGroupId()).arg(groupName(theProduct)).trimmed(),
             typeOf(theProduct),
             priceText(theProduct),
-            theProduct->isOrderable() ? QStringLiteral("yes") : QStringLiteral("no")};
+            answerText(theProduct->isOrderable()),
+            answerText(isOrderableHere(theProduct))};
 }
 
 void printJson(const VelProductList& theArticles, QTextStream& theOutput)
 {
     QJsonArray rows;
-    for (const VelProductAbstract* article : theArticles)
+    for (VelProductAbstract* article : theArticles)
         rows.append(toJson(article));
     theOutput << QJsonDocument(rows).toJson();
 }
@@ -86,8 +104,9 @@ void printJson(const VelProductList& theArticles, QTextStream& theOutput)
 void printText(const VelProductList& theArticles, QTextStream& theOutput)
 {
     VelshopTable table({QStringLiteral("ID"), QStringLiteral("NAME"), QStringLiteral("GROUP"), QStringLiteral("TYPE"),
-                        QStringLiteral("PRICE"), QStringLiteral("ORDERABLE")});
-    for (const VelProductAbstract* article : theArticles)
+                        QStringLiteral("PRICE"), QStringLiteral("ORDERABLE"),
+                        QStringLiteral("BY ") + VelshopWords::orderSource(chosenSource())});
+    for (VelProductAbstract* article : theArticles)
         table.add(toRow(article));
     table.print(theOutput);
 }

@@ -16,8 +16,9 @@ struct VelshopListArguments : VelshopArguments
 
 bool readListArguments(const VelshopCommandLine& theLine, VelshopListArguments& theArguments, VelshopError& theError);
 
-/// Prints the articles of the price list, sorted by shipping group and then as the price list has them. The exit code;
-/// for any but 0 the error in one line.
+/// Prints the articles of the price list, sorted by shipping group and then as the price list has them: whether each
+/// can be ordered at all, and in any number by the shop's starting choice. The exit code; for any but 0 the error in
+/// one line.
 int listArticles(const VelshopListArguments& theArguments, QTextStream& theOutput, VelshopError& theError);
 
 #endif

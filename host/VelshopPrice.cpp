@@ -7,6 +7,7 @@
 #include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopOptions.h"
+#include "host/VelshopProblems.h"
 #include "host/VelshopWords.h"
 #include "price/VelDiscountLimit.h"
 #include "product/VelProductAbstract.h"
@@ -121,13 +122,14 @@ struct PricedArticle
     const VelProductAbstract* myProduct;
     int myCount;
     VelOrderSource mySource;
-    int myAmount; ///< cents, -1 for no price
+    int myAmount;
+    bool myHasPrice;
     QList<PricedLine> myLines;
 };
 
 QJsonObject toJson(const PricedArticle& theArticle)
 {
-    const bool hasPrice = theArticle.myAmount != -1;
+    const bool hasPrice = theArticle.myHasPrice;
     QJsonArray lines;
     if (hasPrice)
         for (const PricedLine& line : theArticle.myLines)
@@ -152,7 +154,7 @@ void print(const PricedArticle& theArticle, bool theIsJson, QTextStream& theOutp
 {
     if (theIsJson) {
         theOutput << QJsonDocument(toJson(theArticle)).toJson();
-    } else if (theArticle.myAmount != -1) {
+    } else if (theArticle.myHasPrice) {
         theOutput << headText(theArticle) << ": " << VelshopWords::money(theArticle.myAmount) << '\n';
         for (const PricedLine& line : theArticle.myLines)
             theOutput << lineText(line) << '\n';
@@ -184,7 +186,7 @@ bool readPriceArguments(const VelshopCommandLine& theLine, VelshopPriceArguments
 
 int priceArticle(const VelshopPriceArguments& theArguments, QTextStream& theOutput, VelshopError& theError)
 {
-    const VelProductAbstract* product = findArticle(theArguments.myArticle, theError);
+    VelProductAbstract* product = findArticle(theArguments.myArticle, theError);
     if (!product)
         return EXIT_BAD_INPUT;
     const VelOrderSource source = orderSource(theArguments);
@@ -196,13 +198,15 @@ int priceArticle(const VelshopPriceArguments& theArguments, QTextStream& theOutp
     status.setOrderSource(source);
     VelTarmBill bill(product->shippingGroupId(), VelOrderStatistic(), VelExpressType(), status);
     const int amount = product->priceFor(status.priceKey(), theArguments.myCount, 0, &bill, nullptr);
-    const PricedArticle article{product, theArguments.myCount, source, amount, pricedLines(bill, source)};
+    const bool hasPrice = VelshopProblems::hasPrice(product, theArguments.myCount, source);
+    const PricedArticle article{product, theArguments.myCount, source, amount, hasPrice, pricedLines(bill, source)};
     if (isTooLarge(article.myLines)) {
         theError = headText(article) + QStringLiteral(": the amount is beyond what 32 bits of cents can hold");
         return EXIT_BAD_INPUT;
     }
     print(article, theArguments.myIsJson, theOutput);
-    if (amount == -1)
-        theError = headText(article) + QStringLiteral(": no price");
-    return amount == -1 ? EXIT_NO_PRICE : EXIT_DONE;
+    if (hasPrice)
+        return EXIT_DONE;
+    theError = headText(article) + QStringLiteral(": no price");
+    return EXIT_NO_PRICE;
 }

@@ -38,6 +38,12 @@ const QVector<Word<VelDiscountModel>> DISCOUNT_MODELS = {
     {"inherited discount", DISCOUNT_MODEL_INHERITED_DISCOUNT},
 };
 
+const QVector<Word<VelCouponType>> COUPON_TYPES = {
+    {"value", COUPON_TYPE_VALUE},
+    {"percent", COUPON_TYPE_PERCENT},
+    {"quantity", COUPON_TYPE_QUANTITY},
+};
+
 const QVector<Word<VelProductClass>> PRODUCT_CLASSES = {
     {"book", PRODUCT_CLASS_FOTO_BOOK},
     {"calendar", PRODUCT_CLASS_CALENDAR},
@@ -106,6 +112,16 @@ QJsonObject VelshopWords::orderSourceData(const VelOrderSource& theOrderSource)
 {
     return {{QStringLiteral("source"), wordOf(INPUT_SOURCES, theOrderSource.inputSource())},
             {QStringLiteral("delivery"), wordOf(DELIVERY_TYPES, theOrderSource.deliveryType())}};
+}
+
+QString VelshopWords::express(const VelExpressType& theExpressType)
+{
+    return QStringLiteral("express %1").arg(theExpressType.value() - ExpressableType_STANDARD);
+}
+
+QString VelshopWords::couponType(VelCouponType theCouponType)
+{
+    return wordOf(COUPON_TYPES, theCouponType);
 }
 
 QString VelshopWords::discountModel(VelDiscountModel theDiscountModel)

@@ -1,6 +1,7 @@
 #ifndef VELSHOPWORDS_H
 #define VELSHOPWORDS_H
 
+#include "frame/VelExpressType.h"
 #include "frame/VelOrderSource.h"
 #include "price/VelDiscountLimit.h"
 
@@ -21,6 +22,12 @@ QString orderSource(const VelOrderSource& theOrderSource);
 
 /// The same as data: `source` and `delivery`, each a word of the table.
 QJsonObject orderSourceData(const VelOrderSource& theOrderSource);
+
+/// As "express 1".
+QString express(const VelExpressType& theExpressType);
+
+/// As "value", the word of the coupon's document; "unknown" for none.
+QString couponType(VelCouponType theCouponType);
 
 /// As "bulk".
 QString discountModel(VelDiscountModel theDiscountModel);

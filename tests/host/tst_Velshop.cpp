@@ -134,7 +134,8 @@ private slots:
     void asJson()
     {
         for (const QJsonValue& article : json("list --group 23").array())
-            QCOMPARE(article["group"].toInt(), 23);
+            QVERIFY(article["group"].toInt() == 23 &&
+                    !article["orderableHere"].toBool(true)); // sold at the kiosk alone
         const QJsonDocument price = json("price 131 120");
         QCOMPARE(price["amount"].toInt(), 1170);
         const QJsonObject rest = price["lines"][1].toObject();
@@ -165,6 +166,7 @@ private slots:
             kiosk    | shop/carts/kiosk.json    | 0
             unpriced | shop/carts/unpriced.json | 1
             fees     | tests/host/bills/fees.json | 0
+            voucher  | tests/host/bills/voucher.json | 0
         )");
     }
 
@@ -207,6 +209,8 @@ private slots:
             no coupon code       | 2 | couponId                         | {"coupon":"none.xml","items":[{"article":103,"count":1}]}
             coupon beyond an int | 2 | amount of shipping group 1       | {"coupon":"dear.xml","couponId":"A","items":[{"article":103,"count":1}]}
             coupon not XML       | 2 | coupon: FOLDER/cart.json, line 1, column | {"coupon":"cart.json","couponId":"A","items":[{"article":103,"count":1}]}
+            beyond the limit     | 1 | 7 Wandbilder und Geschenke: 31 pieces, but 30 | {"items":[{"article":7001,"count":31}]}
+            express without      | 1 | 9171 Fotobuch Classic A4: it can't be had by NET, POS as express 1 | {"source":"NET","delivery":"POS","express":"1","items":[{"article":9171,"count":1}]}
             group not sold       | 1 | 3101 13x18 Klassenfoto: the shop | {"items":[{"article":3101,"count":1}]}
             express not offered  | 1 | 13042 Blitz Bücher: no price by NET, POS | {"source":"NET","delivery":"POS","express":"2","items":[{"article":9171,"count":1}]}
         )");
@@ -224,6 +228,37 @@ private slots:
         QCOMPARE(errors.count('\n'), 1);
         QCOMPARE(answer.exitCode, number("exitCode"));
         QCOMPARE(answer.output.contains("Order: NOT ORDERABLE"), answer.exitCode == 1);
+    }
+
+    void spoiltPrices_data()
+    {
+        readTable(R"(
+            row                | price                          | spoilt   | item  | problem
+            article            | price="15" input_source="0" delivery | price="15,00" input_source="0" delivery | 103x2 | 103 10x15 glänzend: no price by NET, MAIL
+            level of a package | level="3" quantity="101" | level="4" quantity="101" | 131x120 | a package would have -1 pieces
+            shipping           | "295"                          | "2,95"   | 103x2 | 11001 Versand Fotoabzüge: no price by NET, MAIL
+            express            | "490"                          | "4,90"   | 9171x1 | 13041 Express Bücher: no price by NET, MAIL
+            payment            | "95"                           | "0,95"   | 9171x1 | 12003 Rechnung: no price by NET, MAIL
+        )");
+    }
+
+    /// A price that can't be read is none, and what has none isn't sold.
+    void spoiltPrices()
+    {
+        const TestAccount account;
+        for (const char* name : {"orderingdetails.xml", "currencies.xml", "appearance.xml"})
+            account.write(name, content(QString(VELTARM_SOURCE_DIR "/shop/") + name));
+        QString list = content(VELTARM_SOURCE_DIR "/shop/pricelist.xml");
+        account.write("pricelist.xml", list.replace(cell("price"), cell("spoilt")).toUtf8());
+        account.write("cart.json", QString(R"({"express":"%1","items":[{"article":%2,"count":%3}]})")
+                                       .arg(cell("row") == "express" ? "1" : "0", cell("item").section('x', 0, 0),
+                                            cell("item").section('x', 1))
+                                       .toUtf8());
+        const VelshopAnswer answer = bill(account.path("cart.json"),
+                                          {"--account", account.path(), "--discounts", account.path("discounts.xml")});
+        QCOMPARE(answer.exitCode, 1);
+        QVERIFY2(answer.errors.contains(cell("problem").toUtf8()), answer.errors);
+        QVERIFY(!QFileInfo::exists(account.path("discounts.xml")));
     }
 
     /// A cart is walked in the order of addresses, and tables are hashed: neither may show.
@@ -347,6 +382,8 @@ private slots:
         QCOMPARE(group["sums"]["coupon"].toInt(), -778);
         QCOMPARE(group["sums"]["CHF"]["total"].toString(), "CHF 158.81");
         QCOMPARE(group["lines"][1]["model"].toString(), "inherited discount");
+        const QJsonValue coupon = json("bill tests/host/bills/voucher.json")["coupon"];
+        QVERIFY(coupon["shares"][1]["amount"].toInt() == -4055 && coupon["left"].toInt(-1) == 0);
         const QJsonDocument unpriced = json("bill shop/carts/unpriced.json");
         QVERIFY(!unpriced["orderable"].toBool(true) && unpriced["sums"].isNull());
         QVERIFY(unpriced["groups"][0]["sums"].isNull() && unpriced["groups"][1]["sums"]["total"].toInt() == 3280);

@@ -1,0 +1,139 @@
+#include "host/VelshopProblems.h"
+
+#include "bill/VelTarmOrder.h"
+#include "host/VelshopWords.h"
+#include "ordering/VelTarmShippingGroupManager.h"
+#include "product/VelProductAbstract.h"
+
+#include <algorithm>
+
+namespace {
+
+using Objection = VelTarmOrderObjection;
+
+QString nameOf(const Objection& theObjection)
+{
+    const VelProductAbstract* product = theObjection.myProduct;
+    return product ? QStringLiteral("%1 %2: ").arg(QString::number(product->articleID()), product->name()) : QString();
+}
+
+QString limitText(const Objection& theObjection)
+{
+    const QString name = VelTarmShippingGroupManager::instance()->shippingGroupName(theObjection.myGroup);
+    return QStringLiteral("shipping group %1: %2 pieces, but %3 are the most that can be ordered")
+        .arg(QStringLiteral("%1 %2").arg(theObjection.myGroup).arg(name).trimmed(),
+             QString::number(theObjection.myNumber), QString::number(theObjection.myLimit));
+}
+
+QString amountText(const Objection& theObjection)
+{
+    const QString what = theObjection.myGroup == Objection::NO_GROUP
+                             ? QStringLiteral("the order")
+                             : QStringLiteral("shipping group %1").arg(theObjection.myGroup);
+    return QStringLiteral("an amount of %1 is beyond what 32 bits of cents can hold").arg(what);
+}
+
+QString reason(const Objection& theObjection, const VelTarmOrder& theOrder)
+{
+    const QString source = VelshopWords::orderSource(theOrder.status().orderSource());
+    switch (theObjection.myKind) {
+    case Objection::OBJECTION_ORDER_SOURCE:
+        return QStringLiteral("the shop takes no orders by ") + source;
+    case Objection::OBJECTION_PAYMENT:
+        return QStringLiteral("payment %1 can't be chosen by %2").arg(QString::number(theObjection.myNumber), source);
+    case Objection::OBJECTION_NO_PRODUCT:
+        return QStringLiteral("the cart holds an article that the price list doesn't know");
+    case Objection::OBJECTION_COUNT:
+        return QStringLiteral("%1 pieces can't be ordered").arg(theObjection.myNumber);
+    case Objection::OBJECTION_DEPRECATED:
+        return QStringLiteral("it is no longer in the price list");
+    case Objection::OBJECTION_NOT_ORDERABLE:
+        return QStringLiteral("the shop doesn't sell its shipping group");
+    case Objection::OBJECTION_NO_PRICE:
+        return QStringLiteral("no price by ") + source;
+    case Objection::OBJECTION_PACKAGE_PIECES:
+        return QStringLiteral("no price by %1, a package would have %2 pieces")
+            .arg(source, QString::number(theObjection.myNumber));
+    case Objection::OBJECTION_NO_EXPRESS:
+        return QStringLiteral("it can't be had by %1 as %2").arg(source, VelshopWords::express(theOrder.expressType()));
+    case Objection::OBJECTION_LIMIT:
+        return limitText(theObjection);
+    case Objection::OBJECTION_AMOUNT:
+        return amountText(theObjection);
+    }
+    return QString();
+}
+
+bool isOfProduct(const Objection& theObjection)
+{
+    return theObjection.myProduct && theObjection.myFee == Objection::FEE_NONE;
+}
+
+bool isOfPrice(const Objection& theObjection)
+{
+    return isOfProduct(theObjection) && (theObjection.myKind == Objection::OBJECTION_NO_PRICE ||
+                                         theObjection.myKind == Objection::OBJECTION_PACKAGE_PIECES);
+}
+
+/// An order of nothing else; a payment that isn't permitted doesn't matter here.
+VelTarmOrder orderOf(VelProductAbstract* theProduct, int theCount, const VelOrderSource& theSource)
+{
+    VelTarmStatus status;
+    status.setOrderSource(theSource);
+    return VelTarmOrder({{theProduct, theCount}}, status, VelExpressType());
+}
+
+/// One piece, and as many as each band begins with: a package may have no price for a single piece.
+QList<int> countsWorthAsking(const VelProductAbstract& theProduct, const VelOrderSource& theSource)
+{
+    QList<int> counts = {1};
+    for (const VelDiscountLimit& limit :
+         theProduct.discountLimits(VelTarmPriceKey(theSource, -1, DISCOUNT_MODEL_UNDEFINED)))
+        if (limit.lowerLimit() > 1)
+            counts.append(limit.lowerLimit());
+    return counts;
+}
+
+} // namespace
+
+QString VelshopProblems::text(const Objection& theObjection, const VelTarmOrder& theOrder)
+{
+    return nameOf(theObjection) + reason(theObjection, theOrder);
+}
+
+QStringList VelshopProblems::texts(const QList<Objection>& theObjections, const VelTarmOrder& theOrder)
+{
+    QStringList texts;
+    for (const Objection& objection : theObjections)
+        texts.append(text(objection, theOrder));
+    return texts;
+}
+
+QStringList VelshopProblems::ofProducts(const VelTarmOrder& theOrder)
+{
+    QStringList texts;
+    for (const Objection& objection : theOrder.objections())
+        if (isOfProduct(objection))
+            texts.append(text(objection, theOrder));
+    return texts;
+}
+
+bool VelshopProblems::hasPrice(const VelProductAbstract* theProduct, const VelTarmOrder& theOrder)
+{
+    const QList<Objection>& objections = theOrder.objections();
+    return std::none_of(objections.cbegin(), objections.cend(), [&](const Objection& theObjection) {
+        return theObjection.myProduct == theProduct && isOfPrice(theObjection);
+    });
+}
+
+bool VelshopProblems::hasPrice(VelProductAbstract* theProduct, int theCount, const VelOrderSource& theSource)
+{
+    return hasPrice(theProduct, orderOf(theProduct, theCount, theSource));
+}
+
+bool VelshopProblems::isOrderable(VelProductAbstract* theProduct, const VelOrderSource& theSource)
+{
+    const QList<int> counts = countsWorthAsking(*theProduct, theSource);
+    return std::any_of(counts.cbegin(), counts.cend(),
+                       [&](int theCount) { return ofProducts(orderOf(theProduct, theCount, theSource)).isEmpty(); });
+}
