@@ -1,12 +1,12 @@
 #include "host/VelshopCart.h"
 
-#include "bill/VelProductPriceCalculator.h"
 #include "frame/VelTarmGlobalStatus.h"
 #include "host/VelshopArticle.h"
 #include "host/VelshopJsonReader.h"
+#include "host/VelshopParts.h"
 #include "host/VelshopWords.h"
 #include "ordering/VelOrderingDetails.h"
-#include "product/VelProductPrintFun.h"
+#include "product/VelProductAbstract.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -29,8 +29,6 @@ const QString STR_PAGES = QStringLiteral("pages");
 const QString STR_MAPS = QStringLiteral("maps");
 const QString STR_VIDEOS = QStringLiteral("videos");
 const QString STR_TEMPLATES = QStringLiteral("templates");
-
-const int HIGHEST_COUNT = 100000;
 
 /// Of all pieces together, add-ons included: the description of discounts keeps an entry for each of them.
 const qint64 MOST_PIECES = 1000000;
@@ -118,7 +116,7 @@ private:
         myReader.allowKeys(item, place, {STR_ARTICLE, STR_COUNT, STR_PAGES, STR_MAPS, STR_VIDEOS, STR_TEMPLATES});
         const int article = myReader.number(item.value(STR_ARTICLE), place + STR_ARTICLE,
                                             std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
-        const int count = myReader.number(item.value(STR_COUNT), place + STR_COUNT, 1, HIGHEST_COUNT);
+        const int count = myReader.number(item.value(STR_COUNT), place + STR_COUNT, 1, VelshopParts::HIGHEST_COUNT);
         VelshopError reason;
         VelProductAbstract* product = findArticle(article, reason);
         if (!product)
@@ -129,62 +127,47 @@ private:
         readParts(item, product, count, place);
     }
 
-    int part(const QJsonObject& theItem, const QString& theKey, const QString& thePlace)
+    std::optional<int> readPart(const QJsonObject& theItem, const QString& theKey, const QString& thePlace)
     {
-        return theItem.contains(theKey) ? myReader.number(theItem.value(theKey), thePlace + theKey, 0, HIGHEST_COUNT)
-                                        : 0;
+        if (!theItem.contains(theKey))
+            return std::nullopt;
+        return myReader.number(theItem.value(theKey), thePlace + theKey, 0, VelshopParts::HIGHEST_COUNT);
     }
 
     /// What the customer put into a book or calendar; each part of a piece costs an add-on.
     void readParts(const QJsonObject& theItem, VelProductAbstract* theProduct, int theCount, const QString& thePlace)
     {
-        const bool isComposed =
-            theProduct->isProductClass(PRODUCT_CLASS_FOTO_BOOK) || theProduct->isProductClass(PRODUCT_CLASS_CALENDAR);
-        for (const QString& key : {STR_PAGES, STR_MAPS, STR_VIDEOS, STR_TEMPLATES})
-            if (theItem.contains(key) && !isComposed)
-                myReader.refuse(thePlace + key, QStringLiteral("belongs to books and calendars alone"));
-        const int pages = readPages(theItem, theProduct, thePlace);
-        const int maps = part(theItem, STR_MAPS, thePlace);
-        const int videos = part(theItem, STR_VIDEOS, thePlace);
-        const VelProductPriceCalculator calculator(theProduct, pages, maps, videos, readTemplates(theItem, thePlace));
-        if (!isComposed || myReader.isRefused())
+        VelshopParts parts;
+        parts.myPages = readPart(theItem, STR_PAGES, thePlace);
+        parts.myMaps = readPart(theItem, STR_MAPS, thePlace);
+        parts.myVideos = readPart(theItem, STR_VIDEOS, thePlace);
+        parts.myTemplates = readTemplates(theItem, thePlace);
+        const VelshopPartRefusal refusal = refusalOf(parts, theProduct);
+        if (!refusal.myPart.isEmpty())
+            myReader.refuse(thePlace + refusal.myPart, refusal.myReason);
+        addParts(parts.calculator(theProduct), theCount, thePlace);
+    }
+
+    void addParts(const VelProductPriceCalculator& theCalculator, int theCount, const QString& thePlace)
+    {
+        if (myReader.isRefused())
             return;
-        addAll(calculator.boughtPagePackages(), theCount, thePlace + STR_PAGES);
-        addAll(calculator.boughtLocrAreas(), theCount, thePlace + STR_MAPS);
-        addAll(calculator.boughtVideoAreas(), theCount, thePlace + STR_VIDEOS);
-        addAll(calculator.boughtTemplates(), theCount, thePlace + STR_TEMPLATES);
+        addAll(theCalculator.boughtPagePackages(), theCount, thePlace + STR_PAGES);
+        addAll(theCalculator.boughtLocrAreas(), theCount, thePlace + STR_MAPS);
+        addAll(theCalculator.boughtVideoAreas(), theCount, thePlace + STR_VIDEOS);
+        addAll(theCalculator.boughtTemplates(), theCount, thePlace + STR_TEMPLATES);
     }
 
-    /// Without a number as many as the product has at least.
-    int readPages(const QJsonObject& theItem, const VelProductAbstract* theProduct, const QString& thePlace)
+    std::optional<QMap<QString, int>> readTemplates(const QJsonObject& theItem, const QString& thePlace)
     {
-        const auto* product = dynamic_cast<const VelProductPrintFun*>(theProduct);
-        const int lowest = product ? product->minPages() : 0;
-        if (!theItem.contains(STR_PAGES))
-            return lowest;
-        const int pages = part(theItem, STR_PAGES, thePlace);
-        if (!product || product->maxPages() < 1)
-            return pages;
-        const int step = qMax(1, product->pageIncrement());
-        if (pages < lowest || pages > product->maxPages() || (static_cast<qint64>(pages) - lowest) % step != 0)
-            myReader.refuse(thePlace + STR_PAGES, QStringLiteral("must be from %1 to %2 in steps of %3, not %4")
-                                                      .arg(lowest)
-                                                      .arg(product->maxPages())
-                                                      .arg(step)
-                                                      .arg(pages));
-        return pages;
-    }
-
-    QMap<QString, int> readTemplates(const QJsonObject& theItem, const QString& thePlace)
-    {
-        QMap<QString, int> templates;
         if (!theItem.contains(STR_TEMPLATES))
-            return templates;
+            return std::nullopt;
+        QMap<QString, int> templates;
         const QString place = thePlace + STR_TEMPLATES;
         const QJsonObject uses = myReader.object(theItem.value(STR_TEMPLATES), place);
         for (const QString& priceClass : uses.keys())
-            templates[priceClass] =
-                myReader.number(uses.value(priceClass), place + QLatin1Char('.') + priceClass, 0, HIGHEST_COUNT);
+            templates[priceClass] = myReader.number(uses.value(priceClass), place + QLatin1Char('.') + priceClass, 0,
+                                                    VelshopParts::HIGHEST_COUNT);
         return templates;
     }
 

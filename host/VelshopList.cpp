@@ -78,6 +78,7 @@ QJsonObject toJson(VelProductAbstract* theProduct)
             {QStringLiteral("groupName"), groupName(theProduct)},
             {QStringLiteral("type"), typeOf(theProduct)},
             {QStringLiteral("price"), hasPrice ? QJsonValue(theProduct->price()) : QJsonValue()},
+            {QStringLiteral("orderSource"), VelshopWords::orderSourceData(chosenSource())},
             {QStringLiteral("orderable"), theProduct->isOrderable()},
             {QStringLiteral("orderableHere"), isOrderableHere(theProduct)}};
 }

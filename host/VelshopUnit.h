@@ -3,8 +3,7 @@
 
 #include "host/VelshopArguments.h"
 #include "host/VelshopError.h"
-
-#include <QMap>
+#include "host/VelshopParts.h"
 
 class QTextStream;
 class VelshopCommandLine;
@@ -13,15 +12,13 @@ class VelshopCommandLine;
 struct VelshopUnitArguments : VelshopArguments
 {
     int myArticle = 0;
-    int myPages = 0; ///< of a composed product
-    int myMaps = 0;
-    int myVideos = 0;
-    QMap<QString, int> myTemplates; ///< uses by price class
+    VelshopParts myParts;
 };
 
 bool readUnitArguments(const VelshopCommandLine& theLine, VelshopUnitArguments& theArguments, VelshopError& theError);
 
-/// Prints the unit price of a composed book or calendar, part by part, under the shop's starting choice. The exit code;
+/// Prints the unit price of a composed book or calendar, part by part, under the shop's starting choice. What a cart
+/// can't hold is refused in the same words. The exit code;
 /// for any but 0 the error in one line.
 int priceUnit(const VelshopUnitArguments& theArguments, QTextStream& theOutput, VelshopError& theError);
 

@@ -75,7 +75,10 @@ private slots:
             price 103 -5                                | 2        | COUNT must be 1 or more
             bands                                       | 2        | bands takes 1 argument behind
             bands 99                                    | 2        | 99
-            unit 142 --pages 1                          | 1        | no price
+            unit 103 --pages 10                         | 2        | pages: belongs to books and calendars alone
+            unit 9171 --pages 27                        | 2        | pages: must be from 26 to 98 in steps of 8, not 27
+            unit 9171 --pages 26 --template ZZ=1        | 2        | templates.ZZ: the price list has no
+            unit 9171 --pages 26 --maps 100001          | 2        | maps: must be a whole number
             unit 9210                                   | 2        | needs --pages
             unit 9210 --pages 40 --template 12          | 2        | CLASS=N
             list --account=                             | 2        | no folder
@@ -209,6 +212,7 @@ private slots:
             no coupon code       | 2 | couponId                         | {"coupon":"none.xml","items":[{"article":103,"count":1}]}
             coupon beyond an int | 2 | amount of shipping group 1       | {"coupon":"dear.xml","couponId":"A","items":[{"article":103,"count":1}]}
             coupon not XML       | 2 | coupon: FOLDER/cart.json, line 1, column | {"coupon":"cart.json","couponId":"A","items":[{"article":103,"count":1}]}
+            unknown template     | 2 | templates.ZZ: the price list has no | {"items":[{"article":9171,"count":1,"templates":{"ZZ":1}}]}
             beyond the limit     | 1 | 7 Wandbilder und Geschenke: 31 pieces, but 30 | {"items":[{"article":7001,"count":31}]}
             express without      | 1 | 9171 Fotobuch Classic A4: it can't be had by NET, POS as express 1 | {"source":"NET","delivery":"POS","express":"1","items":[{"article":9171,"count":1}]}
             group not sold       | 1 | 3101 13x18 Klassenfoto: the shop | {"items":[{"article":3101,"count":1}]}
