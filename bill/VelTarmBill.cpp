@@ -3,7 +3,6 @@
 #include "bill/VelTarmArticle.h"
 #include "bill/VelTarmBillEntry.h"
 #include "bill/VelTarmBillPosition.h"
-#include "frame/EnumHelper.h"
 #include "frame/VelArithmetic.h"
 #include "frame/VelQuickSort.h"
 #include "price/VelTarmPriceKey.h"
@@ -15,34 +14,15 @@
 
 namespace {
 
-const QString STR_DISCOUNT_TYPE = QStringLiteral("discount_type");
-const QString STR_DISCOUNT_LEVEL = QStringLiteral("discount_level");
-const QString STR_PRICE = QStringLiteral("price");
-const QString STR_TRANSFER_BASE_PRICE = QStringLiteral("transfer_base_price");
-const QString STR_TRANSFER_UNIT_PRICE = QStringLiteral("transfer_unit_price");
-const QString STR_NO_DISCOUNT = QStringLiteral("-");
+/// The states in which a bill carries no transfer charge.
+const int WITHOUT_TRANSFER = VelTarmBill::TRANSFER_STATE_FILTERED_OUT | VelTarmBill::TRANSFER_STATE_FREE;
 
-const int WITHOUT_TRANSFER_MASK = 6;
-
-bool isPackageModel(VelDiscountModel theModel)
+/// Whether the add-on may be had with the product, which has to be the one that its article ID stands for.
+bool isMainProduct(const VelProductAbstract* theProduct, const VelProductAddOn& theAddOn)
 {
-    return theModel == DISCOUNT_MODEL_LEVEL_PACKAGE || theModel == DISCOUNT_MODEL_PACKAGE;
-}
-
-/// Fees carry no transfer prices of their own.
-bool isFeeModel(VelDiscountModel theModel)
-{
-    return theModel == DISCOUNT_MODEL_BULK_TRANSFER || theModel == DISCOUNT_MODEL_BILLING_SUM_TRANSFER ||
-           theModel == DISCOUNT_MODEL_TRANSFER_2 || theModel == DISCOUNT_MODEL_EXPRESS_FEE;
-}
-
-/// The letter as the price list writes it: a piece under a package model that is no package has a lower-case one.
-QString discountType(const VelTarmBill::DiscountInformation& theInformation)
-{
-    if (theInformation.discountLevel == 0)
-        return STR_NO_DISCOUNT;
-    const QString letter = EnumHelper::encodeDiscountModel(theInformation.discountModel).toUpper();
-    return isPackageModel(theInformation.discountModel) && !theInformation.isPackage ? letter.toLower() : letter;
+    const int articleID = theProduct->articleID();
+    return theAddOn.isCompatibleWithArticleId(articleID) &&
+           VelProductRegistry::instance()->productWithArticleID(articleID) == theProduct;
 }
 
 } // namespace
@@ -59,7 +39,7 @@ VelTarmBill::VelTarmBill(const VelTarmBill& theOther)
     , myStatus(theOther.myStatus)
     , myStatistic(theOther.myStatistic)
     , myExpressType(theOther.myExpressType)
-    , myDiscountInformation(theOther.myDiscountInformation)
+    , myDiscountDescription(theOther.myDiscountDescription)
     , myPaymentAgioEnabled(theOther.myPaymentAgioEnabled)
     , myTransferState(theOther.myTransferState)
     , myStoredTransferFee(theOther.myStoredTransferFee)
@@ -86,7 +66,7 @@ void VelTarmBill::init()
     for (auto item = items.cbegin(); item != items.cend(); ++item)
         item.key()->priceFor(key, item.value(), 0, this, &myStatistic);
     const bool isFree = std::any_of(myEntries.cbegin(), myEntries.cend(), [](const VelTarmBillEntry& theEntry) {
-        return theEntry.discountModel() == DISCOUNT_MODEL_PACKAGE;
+        return theEntry.line().myDiscountModel == DISCOUNT_MODEL_PACKAGE;
     });
     myTransferState = isFree ? TRANSFER_STATE_FREE : TRANSFER_STATE_COMPUTE;
     myStoredTransferFee = transferFee();
@@ -128,9 +108,14 @@ VelTarmBillPositionList VelTarmBill::sortedBillPositions() const
 const VelTarmBillEntry* VelTarmBill::firstEntryOf(const VelProductAbstract* theProduct) const
 {
     for (const VelTarmBillEntry& entry : myEntries)
-        if (entry.product() == theProduct)
+        if (entry.line().myProduct == theProduct)
             return &entry;
     return nullptr;
+}
+
+bool VelTarmBill::isFirstOfItsProduct(const VelTarmBillEntry& theEntry) const
+{
+    return firstEntryOf(theEntry.line().myProduct) == &theEntry;
 }
 
 VelTarmBillPosition* VelTarmBill::billPosition(const VelProductAbstract* theProduct) const
@@ -143,22 +128,21 @@ VelTarmBillPosition* VelTarmBill::billPosition(const VelProductAbstract* theProd
 /// Goes through the entries, not through the articles: an add-on may fit very many articles.
 int VelTarmBill::highestLevelOfMainProducts(const VelProductAddOn& theAddOn) const
 {
-    const auto isMainProduct = [&](const VelProductAbstract* theProduct) {
-        const int articleID = theProduct->articleID();
-        return theAddOn.isCompatibleWithArticleId(articleID) &&
-               VelProductRegistry::instance()->productWithArticleID(articleID) == theProduct;
-    };
     int highest = 0;
-    for (const VelTarmBillEntry& entry : myEntries)
-        if (entry.discountLevel() > highest && entry.isPriced() && isMainProduct(entry.product()) &&
-            &entry == firstEntryOf(entry.product()))
-            highest = entry.discountLevel();
+    for (const VelTarmBillEntry& entry : myEntries) {
+        const VelTarmBillLine& line = entry.line();
+        const bool isCandidate = line.myDiscountLevel > highest && line.myKind == VelTarmBillLine::PRICED;
+        if (isCandidate && isMainProduct(line.myProduct, theAddOn) && isFirstOfItsProduct(entry))
+            highest = line.myDiscountLevel;
+    }
     return highest;
 }
 
 bool VelTarmBill::isValid() const
 {
-    const auto isInvalid = [](const VelTarmBillEntry& theEntry) { return theEntry.isInvalid(); };
+    const auto isInvalid = [](const VelTarmBillEntry& theEntry) {
+        return theEntry.line().myKind == VelTarmBillLine::WITHOUT_PRICE;
+    };
     if (std::any_of(myEntries.cbegin(), myEntries.cend(), isInvalid))
         return false;
     return priceOfPaymentAgio(0) >= 0; // it can't come out negative; the test stays all the same
@@ -186,7 +170,8 @@ void VelTarmBill::addOrderPositions(const VelTarmBillPositionList& thePositions)
 template <typename Condition>
 void VelTarmBill::removeEntries(Condition theCondition)
 {
-    myEntries.erase(std::remove_if(myEntries.begin(), myEntries.end(), theCondition), myEntries.end());
+    const auto isRemoved = [&](const VelTarmBillEntry& theEntry) { return theCondition(theEntry.line()); };
+    myEntries.erase(std::remove_if(myEntries.begin(), myEntries.end(), isRemoved), myEntries.end());
 }
 
 void VelTarmBill::filterArticles(const QList<int>& theArticleIDs)
@@ -194,7 +179,7 @@ void VelTarmBill::filterArticles(const QList<int>& theArticleIDs)
     if (theArticleIDs.isEmpty()) // every article counts, and the fees stay as they are
         return;
     removeEntries(
-        [&](const VelTarmBillEntry& theEntry) { return !theArticleIDs.contains(theEntry.product()->articleID()); });
+        [&](const VelTarmBillLine& theLine) { return !theArticleIDs.contains(theLine.myProduct->articleID()); });
     myPaymentAgioEnabled = theArticleIDs.contains(idOfPaymentAgioProduct());
     // Even a free transfer is overwritten here; the stored fee is 0 then.
     myTransferState =
@@ -203,7 +188,7 @@ void VelTarmBill::filterArticles(const QList<int>& theArticleIDs)
 
 void VelTarmBill::filterOutPackages()
 {
-    removeEntries([](const VelTarmBillEntry& theEntry) { return theEntry.isPackage(); });
+    removeEntries([](const VelTarmBillLine& theLine) { return theLine.isPackage(); });
 }
 
 // ---- computing
@@ -211,18 +196,22 @@ void VelTarmBill::filterOutPackages()
 int VelTarmBill::totalItemCost(const VelProductGroup& theGroup) const
 {
     int cost = 0;
-    for (const VelTarmBillEntry& entry : myEntries)
-        if (entry.product()->productGroup().matches(theGroup))
-            cost = VelArithmetic::sum(cost, entry.positionPrice());
+    for (const VelTarmBillEntry& entry : myEntries) {
+        const VelTarmBillLine& line = entry.line();
+        if (line.myProduct->productGroup().matches(theGroup))
+            cost = VelArithmetic::sum(cost, line.myPrice);
+    }
     return cost;
 }
 
 int VelTarmBill::totalItemCount(const VelProductGroup& theGroup) const
 {
     int count = 0;
-    for (const VelTarmBillEntry& entry : myEntries)
-        if (!entry.product()->isAddOn() && entry.product()->productGroup().matches(theGroup))
-            count = VelArithmetic::sum(count, entry.countItems());
+    for (const VelTarmBillEntry& entry : myEntries) {
+        const VelTarmBillLine& line = entry.line();
+        if (!line.myProduct->isAddOn() && line.myProduct->productGroup().matches(theGroup))
+            count = VelArithmetic::sum(count, line.myCountItems);
+    }
     return count;
 }
 
@@ -240,9 +229,11 @@ int VelTarmBill::unitPriceOfCheapestArticle() const
 {
     const int none = std::numeric_limits<int>::max();
     int cheapest = none;
-    for (const VelTarmBillEntry& entry : myEntries)
-        if (entry.product()->productGroup().matches(PRODUCT_GROUP_ALL))
-            cheapest = qMin(cheapest, entry.unitPrice());
+    for (const VelTarmBillEntry& entry : myEntries) {
+        const VelTarmBillLine& line = entry.line();
+        if (line.myProduct->productGroup().matches(PRODUCT_GROUP_ALL))
+            cheapest = qMin(cheapest, line.myUnitPrice);
+    }
     return cheapest == none ? 0 : cheapest;
 }
 
@@ -255,7 +246,7 @@ int VelTarmBill::transferFee() const
 
 bool VelTarmBill::isWithoutTransfer() const
 {
-    return (myTransferState & WITHOUT_TRANSFER_MASK) != 0;
+    return (myTransferState & WITHOUT_TRANSFER) != 0;
 }
 
 int VelTarmBill::priceOfTransfer(VelTarmBill* theBill) const
@@ -291,9 +282,11 @@ int VelTarmBill::priceOfExpressAgio(VelTarmBill* theBill) const
     if (!product)
         return 0;
     int items = 0;
-    for (const VelTarmBillEntry& entry : myEntries)
-        if (entry.product()->isPrintFunProduct())
-            items = VelArithmetic::sum(items, entry.countItems());
+    for (const VelTarmBillEntry& entry : myEntries) {
+        const VelTarmBillLine& line = entry.line();
+        if (line.myProduct->isPrintFunProduct())
+            items = VelArithmetic::sum(items, line.myCountItems);
+    }
     VelTarmPriceKey key = myStatus.priceKey();
     key.setDiscountModel(DISCOUNT_MODEL_EXPRESS_FEE);
     return product->priceFor(key, items, 1, theBill, nullptr);
@@ -345,33 +338,17 @@ void VelTarmBill::initDiscountInfoForXTCI()
     priceOfTransfer(this);
     priceOfExpressAgio(this);
     const VelTarmPriceKey key = myStatus.priceKey();
-    const VelProductAbstract* highest = myStatistic.productWithHighestBaseTransferPrice(key);
     const VelProductAbstract* transfer = transferProduct();
     const bool isTransferModel2 = transfer && transfer->transferModel() == TRANSFER_MODEL_2;
-    for (const VelTarmBillEntry& entry : myEntries) {
-        VelProductAbstract* product = entry.product();
-        int price = entry.unitPrice();
-        for (int piece = 0; piece < entry.countItems(); ++piece) {
-            // Exactly one piece of the whole bill carries the base price.
-            const bool carriesBase = product == highest;
-            insertInfoDiscountInformationMap(product, entry.discountModel(), entry.discountLevel(), entry.isPackage(),
-                                             price, isTransferModel2,
-                                             carriesBase ? product->baseTransferPrice(key) : NO_BASE_TRANSFER_PRICE,
-                                             product->unitTransferPrice(key));
-            if (carriesBase)
-                highest = nullptr;
-            if (entry.isPackage() && isPackageModel(entry.discountModel()))
-                price = 0; // the first piece carries the package's whole price
-        }
-    }
+    VelTarmDiscountDescription::Shipping shipping{key, myStatistic.productWithHighestBaseTransferPrice(key),
+                                                  isTransferModel2};
+    for (const VelTarmBillEntry& entry : myEntries)
+        myDiscountDescription.unfold(entry.line(), shipping);
 }
 
 QList<VelTarmBill::DiscountInformation>* VelTarmBill::discountInformationList(const VelProductAbstract* theProduct)
 {
-    QList<DiscountInformation>*& list = myDiscountInformation[theProduct];
-    if (!list)
-        list = new QList<DiscountInformation>;
-    return list;
+    return myDiscountDescription.pieces(theProduct);
 }
 
 void VelTarmBill::insertInfoDiscountInformationMap(VelProductAbstract* theProduct, VelDiscountModel theModel,
@@ -379,54 +356,24 @@ void VelTarmBill::insertInfoDiscountInformationMap(VelProductAbstract* theProduc
                                                    bool theIsTransferModel2, int theBaseTransferPrice,
                                                    int theUnitTransferPrice)
 {
-    discountInformationList(theProduct)
+    myDiscountDescription.pieces(theProduct)
         ->append({theModel, theLevel, theIsPackage, theUnitPrice, theIsTransferModel2, theUnitTransferPrice,
                   theBaseTransferPrice});
 }
 
 int VelTarmBill::itemsAvailableInCurrentDiscountLevel(VelProductAbstract* theProduct)
 {
-    const QList<DiscountInformation>* list = discountInformationList(theProduct);
-    const auto end = std::find_if(list->cbegin(), list->cend(), [=](const DiscountInformation& theInformation) {
-        return theInformation.discountLevel != list->first().discountLevel;
-    });
-    return static_cast<int>(end - list->cbegin());
+    return myDiscountDescription.piecesOfFirstLevel(theProduct);
 }
 
 VelTarmBill::DiscountInformation VelTarmBill::nextDiscountInfo(const VelProductAbstract* theProduct, int theCount)
 {
-    QList<DiscountInformation>* list = discountInformationList(theProduct);
-    if (list->isEmpty())
-        return {DISCOUNT_MODEL_UNDEFINED, 0, false, 0, false, 0, NO_BASE_TRANSFER_PRICE};
-    const DiscountInformation first = list->first();
-    list->erase(list->begin(), list->begin() + qBound(0, theCount, list->size()));
-    return first;
+    return myDiscountDescription.take(theProduct, theCount);
 }
 
 void VelTarmBill::describeDiscount(QDomElement& theElement, const VelProductAbstract* theProduct, int theCount,
                                    bool theWithDiscountType)
 {
-    const DiscountInformation information = nextDiscountInfo(theProduct, theCount);
-    if (theWithDiscountType) {
-        theElement.setAttribute(STR_DISCOUNT_TYPE, discountType(information));
-        theElement.setAttribute(STR_DISCOUNT_LEVEL, information.discountLevel);
-    }
-    theElement.setAttribute(STR_PRICE, priceOf(information, theCount));
-    if (!information.isTransferModel2 || isFeeModel(information.discountModel))
-        return;
-    const bool carriesBase = information.baseTransferPrice != NO_BASE_TRANSFER_PRICE;
-    if (carriesBase)
-        theElement.setAttribute(STR_TRANSFER_BASE_PRICE, information.baseTransferPrice);
-    if (theCount >= 2 || !carriesBase)
-        theElement.setAttribute(STR_TRANSFER_UNIT_PRICE, information.unitTransferPrice);
-}
-
-/// What a group of pieces like this one costs; a bill of free transfer shows no prices but those of the express fee.
-int VelTarmBill::priceOf(const DiscountInformation& theInformation, int theCount) const
-{
-    if (theInformation.discountModel == DISCOUNT_MODEL_EXPRESS_FEE)
-        return theInformation.unitPrice;
-    if (myTransferState == TRANSFER_STATE_FREE)
-        return 0;
-    return VelArithmetic::product(theInformation.unitPrice, theInformation.isPackage ? 1 : theCount);
+    const bool isFree = myTransferState == TRANSFER_STATE_FREE;
+    myDiscountDescription.describe(theElement, theProduct, theCount, theWithDiscountType, isFree);
 }

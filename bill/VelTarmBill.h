@@ -3,13 +3,13 @@
 
 #include "bill/VelOrderStatistic.h"
 #include "bill/VelTarmBillPositionList.h"
+#include "bill/VelTarmDiscountDescription.h"
 #include "frame/VelExpressType.h"
 #include "frame/VelTarmExport.h"
 #include "frame/VelTarmStatus.h"
 #include "sibling/VelProductGroup.h"
 
 #include <QDomElement>
-#include <QMap>
 
 #include <vector>
 
@@ -32,7 +32,7 @@ struct VelTarmBillLine;
 class VELTARM_EXPORT VelTarmBill
 {
 public:
-    /// How transferFee() answers. The last two have a bit of the mask 6: no transfer charge.
+    /// How transferFee() answers. The numbers are bits: the last two of them stand for no transfer charge.
     enum TransferState : int {
         TRANSFER_STATE_COMPUTE = 0,      ///< computes the fee afresh
         TRANSFER_STATE_STORED = 1,       ///< the fee that was found when the bill was built
@@ -41,18 +41,10 @@ public:
     };
 
     /// One sold piece, as the description of discounts sees it.
-    struct DiscountInformation
-    {
-        VelDiscountModel discountModel; ///< of the position that the piece belongs to
-        int discountLevel;              ///< of that position
-        bool isPackage;                 ///< whether that position is a package
-        int unitPrice;         ///< cents for this piece; the first of a package carries all of its price, the others 0
-        bool isTransferModel2; ///< whether shipping is charged by piece
-        int unitTransferPrice; ///< cents of shipping for this piece under that model
-        int baseTransferPrice; ///< on the one piece that carries it, else NO_BASE_TRANSFER_PRICE
-    };
+    using DiscountInformation = VelTarmDiscountInformation;
+
     /// In place of a base charge: the piece carries none.
-    static const int NO_BASE_TRANSFER_PRICE = -1000000;
+    static const int NO_BASE_TRANSFER_PRICE = VelTarmDiscountDescription::NO_BASE_TRANSFER_PRICE;
 
     /// Copies its arguments and prices every product of the statistic, in the statistic's order, under the status.
     VelTarmBill(int theShippingGroup, const VelOrderStatistic& theStatistic, const VelExpressType& theExpressType,
@@ -172,20 +164,20 @@ private:
 
     void init();
     const VelTarmBillEntry* firstEntryOf(const VelProductAbstract* theProduct) const;
+    bool isFirstOfItsProduct(const VelTarmBillEntry& theEntry) const;
     template <typename Condition>
     void removeEntries(Condition theCondition);
     bool isWithoutTransfer() const;
     int itemCost() const;
     int itemCount() const;
     int costBeforeFees(int theCoupon) const;
-    int priceOf(const DiscountInformation& theInformation, int theCount) const;
 
     Entries myEntries; ///< in the order of the positions; those that were made are the bill's
     int myShippingGroup;
     VelTarmStatus myStatus;
     VelOrderStatistic myStatistic;
     VelExpressType myExpressType;
-    QMap<const VelProductAbstract*, QList<DiscountInformation>*> myDiscountInformation; ///< the lists are never freed
+    VelTarmDiscountDescription myDiscountDescription;
     bool myPaymentAgioEnabled = true;
     TransferState myTransferState = TRANSFER_STATE_COMPUTE;
     int myStoredTransferFee = 0;

@@ -2,60 +2,42 @@
 #define VELTARMBILLENTRY_H
 
 #include "bill/VelTarmBillLine.h"
-#include "bill/VelTarmBillPosition.h"
-#include "frame/VelArithmetic.h"
+
+class VelTarmBillPositionAbstract;
 
 /**
- * One place in a bill: a line, or the position made of it. From the moment that the position exists it alone answers,
- * because its holder may have changed it. The entry owns nothing: the bill releases the positions of its entries.
+ * One place in a bill: a line, and the position made of it once somebody has asked for that. From then on the position
+ * answers, because its holder may have changed it. The entry owns nothing: the bill releases the positions of its
+ * entries.
  */
 class VelTarmBillEntry
 {
 public:
     explicit VelTarmBillEntry(const VelTarmBillLine& theLine) : myLine(theLine) {}
-    explicit VelTarmBillEntry(VelTarmBillPositionAbstract* thePosition)
-        : myLine(VelTarmBillLine::invalid(nullptr)), myPosition(thePosition)
-    {
-    }
+    explicit VelTarmBillEntry(VelTarmBillPositionAbstract* thePosition) : myPosition(thePosition) {}
 
     /// The same with a position of its own, if there is one.
-    VelTarmBillEntry clone() const { return myPosition ? VelTarmBillEntry(myPosition->clone()) : *this; }
+    VelTarmBillEntry clone() const;
+
+    /// What the place says now. Here alone it is decided whether the line or its position answers. Valid until the next
+    /// call.
+    const VelTarmBillLine& line() const
+    {
+        if (myPosition)
+            myLine = lineOf(*myPosition);
+        return myLine;
+    }
 
     /// The position, made on the first call.
-    VelTarmBillPositionAbstract* position() const
-    {
-        if (!myPosition)
-            myPosition = myLine.newPosition();
-        return myPosition;
-    }
+    VelTarmBillPositionAbstract* position() const;
 
     /// The position if one was made, otherwise null.
     VelTarmBillPositionAbstract* madePosition() const { return myPosition; }
 
-    VelProductAbstract* product() const { return myPosition ? myPosition->product() : myLine.myProduct; }
-    int countItems() const { return myPosition ? myPosition->countItems() : myLine.myCountItems; }
-    int unitPrice() const { return myPosition ? myPosition->unitPrice() : myLine.myUnitPrice; }
-    int discountLevel() const { return myPosition ? myPosition->discountLevel() : myLine.myDiscountLevel; }
-    bool isPackage() const { return myPosition ? myPosition->isPackage() : myLine.myDiscountItemsPerUnit > 1; }
-    VelDiscountModel discountModel() const { return myPosition ? myPosition->discountModel() : myLine.myDiscountModel; }
-    int positionPrice() const
-    {
-        return myPosition ? myPosition->positionPrice()
-                          : VelArithmetic::product(myLine.myUnitPrice, myLine.myUnitCount);
-    }
-
-    /// Whether the position is a priced line, and whether it is the marker of a product without a price.
-    bool isPriced() const
-    {
-        return myPosition ? qobject_cast<VelTarmBillPosition*>(myPosition) != nullptr : !myLine.myIsInvalid;
-    }
-    bool isInvalid() const
-    {
-        return myPosition ? myPosition->inherits("VelTarmBillPositionInvalid") : myLine.myIsInvalid;
-    }
-
 private:
-    VelTarmBillLine myLine;
+    static VelTarmBillLine lineOf(const VelTarmBillPositionAbstract& thePosition);
+
+    mutable VelTarmBillLine myLine; ///< what the position said last, once there is one
     mutable VelTarmBillPositionAbstract* myPosition = nullptr;
 };
 

@@ -4,30 +4,31 @@
 #include "frame/VelEnumerations.h"
 
 class VelProductAbstract;
-class VelTarmBillPositionAbstract;
 
-/// What a bill position says, as plain numbers. Pricing makes lines; the bill makes an object of one only when somebody
-/// asks for it, as most bills are priced for their totals alone. The product is borrowed; amounts are whole cents.
+/// One line of a bill, as plain numbers: pricing makes it, the bill keeps it, and the position that is handed out holds
+/// it. The product is borrowed; amounts are whole cents. What stands here is the line of a product without a price.
 struct VelTarmBillLine
 {
-    VelProductAbstract* myProduct;
-    int myCountItems;
-    VelDiscountModel myDiscountModel;
-    int myDiscountLevel;
-    int myUnitPrice;
-    int myUnitCount;
-    int myDiscountItemsPerUnit; ///< above 1 the line is a package
-    int myNonOfferPrice;        ///< -1 when no offer is running
-    bool myIsInvalid;           ///< the marker of a product without a price, see VelTarmBillPositionInvalid
+    /// What stands behind the line.
+    enum Kind {
+        WITHOUT_PRICE, ///< the product has no price, see VelTarmBillPositionInvalid
+        PRICED,        ///< a VelTarmBillPosition
+        OF_THE_HOST    ///< a position of a kind that the host has made up
+    };
 
-    /// The line of a product that has no price.
-    static VelTarmBillLine invalid(VelProductAbstract* theProduct)
-    {
-        return {theProduct, 0, DISCOUNT_MODEL_UNDEFINED, 0, 0, 0, 0, 0, true};
-    }
+    Kind myKind = WITHOUT_PRICE;
+    VelProductAbstract* myProduct = nullptr;
+    int myCountItems = 0; ///< sold pieces
+    VelDiscountModel myDiscountModel = DISCOUNT_MODEL_UNDEFINED;
+    int myDiscountLevel = 0;
+    int myUnitPrice = 0;
+    int myUnitCount = 0;            ///< units that are charged; a unit may be a package of several pieces
+    int myDiscountItemsPerUnit = 0; ///< above 1 the line is a package
+    int myNonOfferPrice = 0;        ///< the old price of a unit, -1 when no offer is running
+    int myPrice = 0; ///< unit price times unit count, unless a position of the host's own kind reckons otherwise
 
-    /// A new object that says the same, owned by the caller.
-    VelTarmBillPositionAbstract* newPosition() const;
+    /// Whether a unit is a package of several pieces.
+    bool isPackage() const { return myDiscountItemsPerUnit > 1; }
 };
 
 #endif

@@ -1,8 +1,9 @@
 #include "price/VelTarmPriceInfo.h"
 
 #include "bill/VelTarmBill.h"
-#include "bill/VelTarmBillLine.h"
+#include "bill/VelTarmBillPosition.h"
 #include "bill/VelTarmBillPositionList.h"
+#include "frame/VelArithmetic.h"
 #include "price/VelPriceRules.h"
 #include "price/VelTransferByProducts.h"
 #include "product/VelProductAddOn.h"
@@ -266,7 +267,7 @@ int VelTarmPriceInfo::priceInTransferModel2(const VelTarmPriceKey& theKey, const
 {
     const int total = VelTransferByProducts(theKey, theStatistic).total();
     if (theBill)
-        theBill->addLine({myProduct, 1, DISCOUNT_MODEL_TRANSFER_2, 0, total, 1, 1, -1, false});
+        theBill->addLine(lineOfTransferModel2(total));
     return total;
 }
 
@@ -286,23 +287,45 @@ int VelTarmPriceInfo::unitTransferPriceInTransferModel2(const VelTarmPriceKey& t
 
 VelTarmBillLine VelTarmPriceInfo::line(const VelTarmPriceCharge& theCharge) const
 {
-    return {myProduct,
-            theCharge.myPieces,
-            theCharge.myModel,
-            theCharge.myLevel,
-            theCharge.myBand->price(),
-            theCharge.myUnits,
-            theCharge.myItemsPerUnit,
-            theCharge.myBand->value().shownNonOfferPrice(),
-            false};
+    VelTarmBillLine line;
+    line.myKind = VelTarmBillLine::PRICED;
+    line.myProduct = myProduct;
+    line.myCountItems = theCharge.myPieces;
+    line.myDiscountModel = theCharge.myModel;
+    line.myDiscountLevel = theCharge.myLevel;
+    line.myUnitPrice = theCharge.myBand->price();
+    line.myUnitCount = theCharge.myUnits;
+    line.myDiscountItemsPerUnit = theCharge.myItemsPerUnit;
+    line.myNonOfferPrice = theCharge.myBand->value().shownNonOfferPrice();
+    line.myPrice = VelArithmetic::product(line.myUnitPrice, line.myUnitCount);
+    return line;
+}
+
+/// The charge that no price entry stands behind.
+VelTarmBillLine VelTarmPriceInfo::lineOfTransferModel2(int theTotal) const
+{
+    VelTarmBillLine line;
+    line.myKind = VelTarmBillLine::PRICED;
+    line.myProduct = myProduct;
+    line.myCountItems = 1;
+    line.myDiscountModel = DISCOUNT_MODEL_TRANSFER_2;
+    line.myUnitPrice = theTotal;
+    line.myUnitCount = 1;
+    line.myDiscountItemsPerUnit = 1;
+    line.myNonOfferPrice = -1;
+    line.myPrice = theTotal;
+    return line;
 }
 
 int VelTarmPriceInfo::chargeTo(VelTarmBill* theBill, const VelTarmPriceAnswer& theAnswer) const
 {
     if (!theBill)
         return theAnswer.myPrice;
-    if (!theAnswer.myHasRule)
-        theBill->addLine(VelTarmBillLine::invalid(myProduct));
+    if (!theAnswer.myHasRule) {
+        VelTarmBillLine withoutPrice;
+        withoutPrice.myProduct = myProduct;
+        theBill->addLine(withoutPrice);
+    }
     for (const VelTarmPriceCharge& charge : theAnswer)
         theBill->addLine(line(charge));
     return theAnswer.myPrice;
@@ -313,6 +336,6 @@ int VelTarmPriceInfo::chargeTo(VelTarmBillPositionList* thePositions, const VelT
     if (!thePositions)
         return theAnswer.myPrice;
     for (const VelTarmPriceCharge& charge : theAnswer)
-        thePositions->append(line(charge).newPosition());
+        thePositions->append(new VelTarmBillPosition(line(charge)));
     return theAnswer.myPrice;
 }
