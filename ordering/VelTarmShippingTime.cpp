@@ -9,20 +9,50 @@ const QString STR_DAYS = QStringLiteral("days");
 const QString STR_DELIVERY_TYPE = QStringLiteral("delivery_type");
 const QString STR_EXPRESS = QStringLiteral("express");
 
-/// The end of the run of digits that begins at the index.
-int endOfDigits(const QString& theText, int theIndex)
+/// A run of digits within a text, from the first up to the one before the end. Runs are told by hand and not by a
+/// regular expression, since a load reads very many of these.
+struct Digits
 {
-    while (theIndex < theText.length() && theText.at(theIndex).isDigit())
-        ++theIndex;
-    return theIndex;
+    int myBegin;
+    int myEnd;
+};
+
+Digits digitsAt(const QString& theText, int theBegin)
+{
+    Digits digits{theBegin, theBegin};
+    while (digits.myEnd < theText.length() && theText.at(digits.myEnd).isDigit())
+        ++digits.myEnd;
+    return digits;
 }
 
-int firstDigit(const QString& theText)
+Digits firstDigits(const QString& theText)
 {
-    int index = 0;
-    while (index < theText.length() && !theText.at(index).isDigit())
-        ++index;
-    return index;
+    int begin = 0;
+    while (begin < theText.length() && !theText.at(begin).isDigit())
+        ++begin;
+    return digitsAt(theText, begin);
+}
+
+/// The last number of a chain as "1-3-5" that begins with this one; the same when the chain has no other.
+Digits lastOfChain(const QString& theText, Digits theFirst)
+{
+    Digits last = theFirst;
+    while (last.myEnd < theText.length() && theText.at(last.myEnd) == QLatin1Char('-')) {
+        const Digits next = digitsAt(theText, last.myEnd + 1);
+        if (next.myBegin == next.myEnd)
+            break;
+        last = next;
+    }
+    return last;
+}
+
+/// The default when no int holds it.
+int toInt(const QString& theText, Digits theDigits, int theDefault)
+{
+    bool isNumber = false;
+    const int number =
+        QStringView(theText).mid(theDigits.myBegin, theDigits.myEnd - theDigits.myBegin).toInt(&isNumber);
+    return isNumber ? number : theDefault;
 }
 
 } // namespace
@@ -41,22 +71,12 @@ bool VelTarmShippingTime::operator==(const VelTarmShippingTime& theOther) const
 }
 
 /// Finds the first (\d+)(-(\d+))* anywhere in the text: the first number is the lower end, the last one of the chain
-/// the upper. Done by hand, since a load reads very many of these.
+/// the upper. A text without digits leaves both as they are.
 void VelTarmShippingTime::readDays(const QString& theText)
 {
-    const int begin = firstDigit(theText);
-    int end = endOfDigits(theText, begin);
-    if (begin == end)
+    const Digits first = firstDigits(theText);
+    if (first.myBegin == first.myEnd)
         return;
-    myMinDays = QStringView(theText).mid(begin, end - begin).toInt(); // 0 when no int holds it
-    QStringView lastOfChain;
-    while (end < theText.length() && theText.at(end) == QLatin1Char('-') && endOfDigits(theText, end + 1) > end + 1) {
-        const int numberBegin = end + 1;
-        end = endOfDigits(theText, numberBegin);
-        lastOfChain = QStringView(theText).mid(numberBegin, end - numberBegin);
-    }
-    bool isNumber = false;
-    myMaxDays = lastOfChain.toInt(&isNumber);
-    if (!isNumber)
-        myMaxDays = myMinDays;
+    myMinDays = toInt(theText, first, 0);
+    myMaxDays = toInt(theText, lastOfChain(theText, first), myMinDays);
 }
