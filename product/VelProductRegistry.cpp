@@ -31,7 +31,8 @@ const QString STR_ID = QStringLiteral("id");
 const QString STR_BORDER = QStringLiteral("BORDER");
 
 /// The bit of PRODUCT_CLASS_PRINT_FUN_MASK that no product has yet.
-const int SPARE_PRINT_FUN_CLASS = 16;
+const int SPARE_PRINT_FUN_CLASS = PRODUCT_CLASS_PRINT_FUN_MASK & ~(PRODUCT_CLASS_FOTO_BOOK | PRODUCT_CLASS_CALENDAR |
+                                                                   PRODUCT_CLASS_GIFT | PRODUCT_CLASS_CARD);
 
 bool isOfUnknownType(const VelProductAbstract* theProduct)
 {
@@ -102,6 +103,113 @@ VelProductRegistry::~VelProductRegistry()
     delete myExpressFees;
     delete myTransferProducts;
     qDeleteAll(myProductsByType);
+}
+
+// ---- the way of a price list into the registry
+
+void VelProductRegistry::loadAllProducts()
+{
+    loadAllProducts(VelKeyAccount::instance()->pricelistXMLFileInfo(false));
+}
+
+void VelProductRegistry::loadAllProducts(const QFileInfo& theProductListFileInfo)
+{
+    const QDomElement root = VelXMLLoader::loadDocumentElement(theProductListFileInfo);
+    myLastLoad = VelTarmLoadResult(theProductListFileInfo, root);
+    updateProducts(root);
+}
+
+void VelProductRegistry::updateProducts(const QDomNode& theNode)
+{
+    const auto knownProducts = static_cast<int>(myProductList.size());
+    myFotoBookCache->clear();
+    setProductsDeprecated();
+    readProducts(theNode.firstChildElement(STR_ARTICLES));
+    readProducts(theNode.firstChildElement(STR_ADD_ONS));
+    readAdditionalPaymentFees(theNode.firstChildElement(STR_PAYMETHOD_FEES));
+    readTransferPrices(theNode.firstChildElement(STR_TRANSFERS));
+    readExpressFees(theNode.firstChildElement(STR_EXPRESS_FEES));
+    countProducts(knownProducts);
+    emit priceListUpdated();
+}
+
+void VelProductRegistry::setProductsDeprecated()
+{
+    for (VelProductAbstract* product : qAsConst(myProductList))
+        product->setDeprecated(true);
+}
+
+void VelProductRegistry::readProducts(const QDomElement& theSection)
+{
+    // An id changes neither by an update with an element of that id nor otherwise while a section is read.
+    QHash<int, VelProductAbstract*> productsByID = firstProductsByArticleID();
+    for (const QDomElement& element : VelChildElements(theSection)) {
+        VelProductAbstract*& product = productsByID[VelXMLParser::intAttribute(element, STR_ID, 0)];
+        if (product) {
+            product->update(element);
+            continue;
+        }
+        product = buildAbstractProduct(element);
+        if (product && isOfUnknownType(product)) {
+            delete product;
+            product = nullptr;
+        }
+        insertProduct(product);
+    }
+}
+
+/// The lookup of one section's reading: a scan of the list per element would make a load quadratic.
+QHash<int, VelProductAbstract*> VelProductRegistry::firstProductsByArticleID() const
+{
+    QHash<int, VelProductAbstract*> productsByID;
+    productsByID.reserve(myProductList.size());
+    for (VelProductAbstract* product : myProductList) {
+        VelProductAbstract*& first = productsByID[product->articleID()];
+        if (!first)
+            first = product;
+    }
+    return productsByID;
+}
+
+VelProductAbstract* VelProductRegistry::buildAbstractProduct(const QDomElement& theElement) const
+{
+    return VelProductFactory::instance()->build(theElement);
+}
+
+void VelProductRegistry::insertProduct(VelProductAbstract* theProduct)
+{
+    if (!theProduct)
+        return;
+    myProductList.append(theProduct);
+    if (!theProduct->isPrintFunProduct())
+        return;
+    // A host may bring a product of a print-fun class that isn't one, and so has no type to file it under.
+    if (const auto* printFun = dynamic_cast<VelProductPrintFun*>(theProduct))
+        productsOfType(printFun->productType())->append(theProduct);
+}
+
+void VelProductRegistry::readAdditionalPaymentFees(const QDomElement& theSection)
+{
+    myPaymentAgio->readAdditionalPaymentFees(theSection);
+}
+
+void VelProductRegistry::readTransferPrices(const QDomElement& theSection)
+{
+    myTransferProducts->readTransferPrices(theSection);
+}
+
+void VelProductRegistry::readExpressFees(const QDomElement& theSection)
+{
+    myExpressFees->readExpressFees(theSection);
+}
+
+void VelProductRegistry::countProducts(int theKnownProducts)
+{
+    const auto deprecated = static_cast<int>(
+        std::count_if(myProductList.cbegin(), myProductList.cend(),
+                      [](const VelProductAbstract* theProduct) { return theProduct->isDeprecated(); }));
+    myLastLoad.setProducts(static_cast<int>(myProductList.size()) - theKnownProducts, theKnownProducts - deprecated,
+                           deprecated);
 }
 
 // ---- one product
@@ -464,109 +572,4 @@ QList<VelExpressType> VelProductRegistry::supportedExpressTypes(int theShippingG
 bool VelProductRegistry::containsExpressAgioProducts() const
 {
     return myExpressFees->containsExpressAgioProducts();
-}
-
-void VelProductRegistry::loadAllProducts()
-{
-    loadAllProducts(VelKeyAccount::instance()->pricelistXMLFileInfo(false));
-}
-
-void VelProductRegistry::loadAllProducts(const QFileInfo& theProductListFileInfo)
-{
-    const QDomElement root = VelXMLLoader::loadDocumentElement(theProductListFileInfo);
-    myLastLoad = VelTarmLoadResult(theProductListFileInfo, root);
-    updateProducts(root);
-}
-
-void VelProductRegistry::updateProducts(const QDomNode& theNode)
-{
-    const auto knownProducts = static_cast<int>(myProductList.size());
-    myFotoBookCache->clear();
-    setProductsDeprecated();
-    readProducts(theNode.firstChildElement(STR_ARTICLES));
-    readProducts(theNode.firstChildElement(STR_ADD_ONS));
-    readAdditionalPaymentFees(theNode.firstChildElement(STR_PAYMETHOD_FEES));
-    readTransferPrices(theNode.firstChildElement(STR_TRANSFERS));
-    readExpressFees(theNode.firstChildElement(STR_EXPRESS_FEES));
-    countProducts(knownProducts);
-    emit priceListUpdated();
-}
-
-void VelProductRegistry::countProducts(int theKnownProducts)
-{
-    const auto deprecated = static_cast<int>(
-        std::count_if(myProductList.cbegin(), myProductList.cend(),
-                      [](const VelProductAbstract* theProduct) { return theProduct->isDeprecated(); }));
-    myLastLoad.setProducts(static_cast<int>(myProductList.size()) - theKnownProducts, theKnownProducts - deprecated,
-                           deprecated);
-}
-
-void VelProductRegistry::readProducts(const QDomElement& theSection)
-{
-    // An id changes neither by an update with an element of that id nor otherwise while a section is read.
-    QHash<int, VelProductAbstract*> productsByID = firstProductsByArticleID();
-    for (const QDomElement& element : VelChildElements(theSection)) {
-        VelProductAbstract*& product = productsByID[VelXMLParser::intAttribute(element, STR_ID, 0)];
-        if (product) {
-            product->update(element);
-            continue;
-        }
-        product = buildAbstractProduct(element);
-        if (product && isOfUnknownType(product)) {
-            delete product;
-            product = nullptr;
-        }
-        insertProduct(product);
-    }
-}
-
-/// The lookup of one section's reading: a scan of the list per element would make a load quadratic.
-QHash<int, VelProductAbstract*> VelProductRegistry::firstProductsByArticleID() const
-{
-    QHash<int, VelProductAbstract*> productsByID;
-    productsByID.reserve(myProductList.size());
-    for (VelProductAbstract* product : myProductList) {
-        VelProductAbstract*& first = productsByID[product->articleID()];
-        if (!first)
-            first = product;
-    }
-    return productsByID;
-}
-
-void VelProductRegistry::insertProduct(VelProductAbstract* theProduct)
-{
-    if (!theProduct)
-        return;
-    myProductList.append(theProduct);
-    if (!theProduct->isPrintFunProduct())
-        return;
-    // A host may bring a product of a print-fun class that isn't one, and so has no type to file it under.
-    if (const auto* printFun = dynamic_cast<VelProductPrintFun*>(theProduct))
-        productsOfType(printFun->productType())->append(theProduct);
-}
-
-void VelProductRegistry::setProductsDeprecated()
-{
-    for (VelProductAbstract* product : qAsConst(myProductList))
-        product->setDeprecated(true);
-}
-
-VelProductAbstract* VelProductRegistry::buildAbstractProduct(const QDomElement& theElement) const
-{
-    return VelProductFactory::instance()->build(theElement);
-}
-
-void VelProductRegistry::readTransferPrices(const QDomElement& theSection)
-{
-    myTransferProducts->readTransferPrices(theSection);
-}
-
-void VelProductRegistry::readAdditionalPaymentFees(const QDomElement& theSection)
-{
-    myPaymentAgio->readAdditionalPaymentFees(theSection);
-}
-
-void VelProductRegistry::readExpressFees(const QDomElement& theSection)
-{
-    myExpressFees->readExpressFees(theSection);
 }
