@@ -15,6 +15,17 @@ QString described(VelTarmBill& theBill, const VelProductAbstract* theProduct, in
     return values.join(' ');
 }
 
+/// A kind of position that a host has made up: a flat amount for three pieces.
+class FlatPosition : public VelTarmBillPositionInvalid
+{
+public:
+    using VelTarmBillPositionInvalid::VelTarmBillPositionInvalid;
+    VelTarmBillPositionAbstract* clone() const override { return new FlatPosition(*this); }
+    int countItems() const override { return 3; }
+    int positionPrice() const override { return 777; }
+    bool isPackage() const override { return true; }
+};
+
 } // namespace
 
 /// Group 1 has transfer by quantity and an express fee, 3 transfer model 2, 4 no transfer, 5 one without a price.
@@ -89,6 +100,21 @@ private slots:
         bill.billPosition(product(1))->setProduct(product(2));
         QCOMPARE(bill.totalItemCost(PRODUCT_GROUP_GIFT), 400);
         QCOMPARE(bill.totalItemCount(PRODUCT_GROUP_GIFT), 5);
+    }
+
+    void positionsOfTheHost()
+    {
+        VelTarmBill origin = ::bill(4, "1x1");
+        VelTarmBillPositionList positions;
+        positions.append(new FlatPosition(product(1)));
+        origin.addOrderPositions(positions);
+        VelTarmBill copy(origin);
+        QCOMPARE(copy.totalItemCost(PRODUCT_GROUP_ALL), 100 + 777);
+        QCOMPARE(copy.totalItemCount(PRODUCT_GROUP_ALL), 1 + 3);
+        QVERIFY(!copy.isValid());
+        const std::unique_ptr<VelTarmBillPositionAbstract> package(copy.orderPositions().last());
+        copy.filterOutPackages();
+        QCOMPARE(copy.totalItemCost(PRODUCT_GROUP_ALL), 100);
     }
 
     /// A bill releases its positions, and those that it took over, but none that were filtered out.
