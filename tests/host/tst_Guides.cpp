@@ -151,6 +151,25 @@ private slots:
         const QString output = QString::fromUtf8(answer.output + answer.errors).remove(account.path() + "/");
         QVERIFY2(pattern(expected).match(output).hasMatch(), qPrintable("velshop prints\n" + output));
     }
+
+    /// Each numbered step of the way of a price names files, and functions that stand in them.
+    void stepsOfThePrice()
+    {
+        const QRegularExpression step(R"(\| \d+ \| (.*) \| (.*) \| .* \|\n)");
+        const QRegularExpression code("`([^`]+)`");
+        int steps = 0;
+        for (auto found = step.globalMatch(content("docs/architecture.md")); found.hasNext(); ++steps) {
+            const QRegularExpressionMatch cells = found.next();
+            QString source;
+            for (auto file = code.globalMatch(cells.captured(1)); file.hasNext();)
+                source += content(file.next().captured(1));
+            for (auto function = code.globalMatch(cells.captured(2)); function.hasNext();) {
+                const QString name = function.next().captured(1);
+                QVERIFY2(source.contains(name + "("), qPrintable(cells.captured(0)));
+            }
+        }
+        QCOMPARE(steps, 21);
+    }
 };
 
 VEL_TEST_MAIN(GuidesTest)
