@@ -1,0 +1,13 @@
+#ifndef VELPRICEDIP_H
+#define VELPRICEDIP_H
+
+/// Neighbouring quantities that cost more than one and the same larger quantity.
+struct VelPriceDip
+{
+    int myFrom;   ///< the first such quantity
+    int myTo;     ///< the last one, included
+    int myBetter; ///< the cheapest larger quantity of the curve, the smallest of equally cheap ones
+    int mySaves;  ///< the most that is saved by buying that many instead, in cents
+};
+
+#endif
