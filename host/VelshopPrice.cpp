@@ -2,11 +2,9 @@
 
 #include "bill/VelTarmBill.h"
 #include "bill/VelTarmBillPosition.h"
-#include "frame/VelTarmGlobalStatus.h"
 #include "host/VelshopArticle.h"
 #include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
-#include "host/VelshopOptions.h"
 #include "host/VelshopProblems.h"
 #include "host/VelshopWords.h"
 #include "price/VelDiscountLimit.h"
@@ -28,28 +26,6 @@ struct PricedLine
     bool myHasBand;
     VelDiscountLimit myBand;
 };
-
-bool isOnSite(const VelOrderSource& theSource)
-{
-    return theSource.inputSource() == INPUT_SOURCE_KIOSK || theSource.deliveryType() == DELIVERY_TYPE_ON_SITE;
-}
-
-/// The halves that the command line names, completed by the shop's starting choice. A kiosk and delivery on site bring
-/// each other along; where the starting choice is on site or wild, the net and mail order take its place.
-VelOrderSource orderSource(const VelshopPriceArguments& theArguments)
-{
-    const VelOrderSource named(theArguments.myInputSource, theArguments.myDeliveryType);
-    const bool namesNone = named == VelOrderSource(INPUT_SOURCE_ANY, DELIVERY_TYPE_ANY);
-    VelOrderSource other = VelTarmGlobalStatus::instance()->orderSource();
-    if (namesNone)
-        return other;
-    if (isOnSite(named))
-        other = VelOrderSource::kioskOnSite();
-    else if (isOnSite(other) || other.inputSource() < 0 || other.deliveryType() < 0)
-        other = VelOrderSource::onlineMailOrder();
-    return VelOrderSource(named.inputSource() == INPUT_SOURCE_ANY ? other.inputSource() : named.inputSource(),
-                          named.deliveryType() == DELIVERY_TYPE_ANY ? other.deliveryType() : named.deliveryType());
-}
 
 PricedLine pricedLine(const VelTarmBillPositionAbstract* thePosition, const VelOrderSource& theSource)
 {
@@ -161,18 +137,6 @@ void print(const PricedArticle& theArticle, bool theIsJson, QTextStream& theOutp
     }
 }
 
-bool readOrderSource(const VelshopCommandLine& theLine, VelshopPriceArguments& theArguments, VelshopError& theError)
-{
-    const QString source = theLine.value(VelshopOptions::STR_SOURCE);
-    const QString delivery = theLine.value(VelshopOptions::STR_DELIVERY);
-    if (theLine.isSet(VelshopOptions::STR_SOURCE) && !VelshopWords::readInputSource(source, theArguments.myInputSource))
-        theError = QStringLiteral("--source must be NET, CD or KIOSK, not \"%1\"").arg(source);
-    else if (theLine.isSet(VelshopOptions::STR_DELIVERY) &&
-             !VelshopWords::readDeliveryType(delivery, theArguments.myDeliveryType))
-        theError = QStringLiteral("--delivery must be POS, MAIL or ONSITE, not \"%1\"").arg(delivery);
-    return theError.isEmpty();
-}
-
 } // namespace
 
 bool readPriceArguments(const VelshopCommandLine& theLine, VelshopPriceArguments& theArguments, VelshopError& theError)
@@ -181,7 +145,7 @@ bool readPriceArguments(const VelshopCommandLine& theLine, VelshopPriceArguments
                                           VelshopCommandLine::LOWEST_ID, theArguments.myArticle, theError) &&
            VelshopCommandLine::readNumber(theLine.words().at(1), QStringLiteral("COUNT"), 1, theArguments.myCount,
                                           theError) &&
-           readOrderSource(theLine, theArguments, theError);
+           theArguments.mySource.read(theLine, theError);
 }
 
 int priceArticle(const VelshopPriceArguments& theArguments, QTextStream& theOutput, VelshopError& theError)
@@ -189,11 +153,9 @@ int priceArticle(const VelshopPriceArguments& theArguments, QTextStream& theOutp
     VelProductAbstract* product = findArticle(theArguments.myArticle, theError);
     if (!product)
         return EXIT_BAD_INPUT;
-    const VelOrderSource source = orderSource(theArguments);
-    if (!source.isValid()) {
-        theError = QStringLiteral("KIOSK and ONSITE go together and with nothing else");
+    VelOrderSource source = VelOrderSource::onlineMailOrder();
+    if (!theArguments.mySource.complete(source, theError))
         return EXIT_BAD_INPUT;
-    }
     VelTarmStatus status;
     status.setOrderSource(source);
     VelTarmBill bill(product->shippingGroupId(), VelOrderStatistic(), VelExpressType(), status);

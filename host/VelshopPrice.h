@@ -4,6 +4,7 @@
 #include "frame/VelEnumerations.h"
 #include "host/VelshopArguments.h"
 #include "host/VelshopError.h"
+#include "host/VelshopSourceChoice.h"
 
 class QTextStream;
 class VelshopCommandLine;
@@ -13,9 +14,7 @@ struct VelshopPriceArguments : VelshopArguments
 {
     int myArticle = 0;
     int myCount = 0;
-    /// The two halves of the order source to price by; INPUT_SOURCE_ANY and DELIVERY_TYPE_ANY leave the choice open.
-    VelInputSource myInputSource = INPUT_SOURCE_ANY;
-    VelDeliveryType myDeliveryType = DELIVERY_TYPE_ANY;
+    VelshopSourceChoice mySource;
 };
 
 bool readPriceArguments(const VelshopCommandLine& theLine, VelshopPriceArguments& theArguments, VelshopError& theError);
