@@ -6,6 +6,7 @@
 #include "host/VelshopList.h"
 #include "host/VelshopOptions.h"
 #include "host/VelshopPrice.h"
+#include "host/VelshopSchema.h"
 #include "host/VelshopShop.h"
 #include "host/VelshopTypes.h"
 #include "host/VelshopUnit.h"
@@ -107,6 +108,17 @@ const QVector<VelshopCommand>& VelshopCommands::all()
          "The types are those of the products that a customer composes: books, calendars, cards and gifts.",
          "velshop types --json",
          justRun(listTypes)},
+        {"schema",
+         "DIR",
+         {},
+         {},
+         {STR_JSON},
+         OPENS_NO_ACCOUNT,
+         "writes XML schemas of the documents, by which an editor completes names and shows what they mean",
+         "The folder DIR is made if it isn't there. A document is checked by \"xmllint --noout --schema "
+         "DIR/pricelist.xsd pricelist.xml\".",
+         "velshop schema schemas",
+         readAndRun(readSchemaArguments, writeSchemas)},
     };
     return commands;
 }

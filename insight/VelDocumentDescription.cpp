@@ -81,7 +81,8 @@ QVector<const VelDocumentDescription*> VelDocumentDescription::all()
     const auto made = [](Kind theKind, const char* theName, const char* theFile, const VelElementDescription& theRoot) {
         return new VelDocumentDescription(theKind, QString::fromLatin1(theName), QString::fromLatin1(theFile), theRoot);
     };
-    static const QVector<const VelDocumentDescription*> ourDocuments{
+    static const auto& ourDocuments = *new QVector<const VelDocumentDescription*>{
+        // to the end of the process
         // live to the end of the process
         made(PRICE_LIST, "pricelist", "pricelist.xml", priceList()),
         made(ORDERING_DETAILS, "orderingdetails", "orderingdetails.xml", orderingDetails()),

@@ -341,6 +341,8 @@ private slots:
             page over discounts  | 2 | ./new: can't take two outputs   | ln -s new linked; velshop bill cart --html linked --discounts ./new
             completes a command  | 0 | >bands bill<                    | . <(velshop --bash-completion); COMP_WORDS=(velshop b) COMP_CWORD=1; _velshop; echo ">${COMPREPLY[*]}<"
             completes a choice   | 0 | >CD<                            | . <(velshop --bash-completion); COMP_WORDS=(velshop --account = x price --source C) COMP_CWORD=6; _velshop; echo ">${COMPREPLY[*]}<"
+            schemas              | 0 | one/two/coupon.xsd              | velshop schema one/two >out; xmllint --noout one/two/coupon.xsd && cat out
+            schemas into a file  | 2 | cart: the folder can't be made  | velshop schema cart
             manual               | 0 | .SS \fBlist                     | velshop --manual
             page over the answer | 2 | out: can't take two outputs     | velshop bill cart --html out >out
         )");

@@ -102,7 +102,7 @@ private:
         QVERIFY(QDir().mkpath(myFolder.path("icons/payment")));
         for (const Document* document : Document::all())
             if (document->kind() != Document::COUPON)
-                myFolder.write(document->file(), fullDocument(*document).toByteArray());
+                myFolder.write(document->file(), FullDocument(*document, true).bytes());
         VelDirectoryConfig::instance()->setConfigurationDirectory(myFolder.path());
         VelDirectoryConfig::instance()->setResourceDirectory(myFolder.path());
         const MessageCatcher messages;
@@ -111,8 +111,8 @@ private:
         VelCurrencyConfig::instance();
         VelOrderingDetails::instance();
         VelProductRegistry::instance();
-        const QDomDocument coupon = fullDocument(Document::of(Document::COUPON));
-        QVERIFY(VelCoupon("code", coupon.documentElement()).isValid());
+        const FullDocument coupon(Document::of(Document::COUPON), true);
+        QVERIFY(VelCoupon("code", coupon.root()).isValid());
     }
 
     void verifyValues(const VelElementDescription& theElement)

@@ -34,43 +34,60 @@ inline QString sensibleValue(const VelValueDescription& theValue)
     }
 }
 
-/// Gives the attribute a sensible value, and ids a new one each time.
-inline void setSensible(QDomElement theElement, const VelValueDescription& theAttribute)
+/// A document in which everything occurs that is described, what has no effect only if it is asked for. An element that
+/// may be repeated has a copy for each other word of its attributes.
+class FullDocument
 {
-    static int ourLastId = 0;
-    const bool isNew =
-        theAttribute.myType == VelValueDescription::TYPE_ID && theAttribute.myVocabulary.myWords.isEmpty();
-    theElement.setAttribute(theAttribute.myName, isNew ? QString::number(++ourLastId) : sensibleValue(theAttribute));
-}
+public:
+    FullDocument(const VelDocumentDescription& theDescription, bool theWithIdle)
+        : myIsWithIdle(theWithIdle), myDocument((QString())) // the name makes it one that is not null
+    {
+        append(myDocument, theDescription.root());
+    }
+    QDomElement root() const { return myDocument.documentElement(); }
+    QByteArray bytes() const { return myDocument.toByteArray(); }
 
-/// Appends the element with all that it may hold, idle things too, and a copy for each other word of each attribute.
-inline void appendFull(QDomDocument& theDocument, QDomNode theParent, const VelElementDescription& theDescription)
-{
-    QDomElement element = theDocument.createElement(theDescription.tag());
-    theParent.appendChild(element);
-    for (const VelValueDescription& attribute : theDescription.attributes())
-        setSensible(element, attribute);
-    if (theDescription.text())
-        element.appendChild(theDocument.createTextNode(sensibleValue(*theDescription.text())));
-    for (const VelElementDescription& child : theDescription.children())
-        appendFull(theDocument, element, child);
-    if (theDescription.occurrence() == VelElementDescription::ONCE)
-        return;
-    for (const VelValueDescription& attribute : theDescription.attributes())
-        for (const VelVocabulary::Word& word : attribute.myVocabulary.myWords.mid(1)) {
-            const QDomElement copy = theParent.appendChild(element.cloneNode()).toElement();
-            if (const VelValueDescription* id = theDescription.attribute(QStringLiteral("id")))
-                setSensible(copy, *id);
-            copy.toElement().setAttribute(attribute.myName, word.myText);
-        }
-}
+private:
+    bool isLeftOut(VelNeed theNeed) const { return theNeed == NEED_IDLE && !myIsWithIdle; }
 
-/// A document in which everything occurs that is described.
-inline QDomDocument fullDocument(const VelDocumentDescription& theDescription)
-{
-    QDomDocument document((QString())); // the one that is not null
-    appendFull(document, document, theDescription.root());
-    return document;
-}
+    void append(QDomNode theParent, const VelElementDescription& theDescription)
+    {
+        if (isLeftOut(theDescription.need()))
+            return;
+        const QDomElement element = theParent.appendChild(myDocument.createElement(theDescription.tag())).toElement();
+        for (const VelValueDescription& attribute : theDescription.attributes())
+            set(element, attribute, sensibleValue(attribute));
+        if (theDescription.text())
+            QDomNode(element).appendChild(myDocument.createTextNode(sensibleValue(*theDescription.text())));
+        for (const VelElementDescription& child : theDescription.children())
+            append(element, child);
+        if (theDescription.occurrence() == VelElementDescription::ANY_NUMBER)
+            appendCopies(element, theDescription);
+    }
+
+    void appendCopies(const QDomElement& theElement, const VelElementDescription& theDescription)
+    {
+        for (const VelValueDescription& attribute : theDescription.attributes())
+            for (const VelVocabulary::Word& word : attribute.myVocabulary.myWords.mid(1)) {
+                const QDomElement copy = theElement.parentNode().appendChild(theElement.cloneNode()).toElement();
+                if (const VelValueDescription* id = theDescription.attribute(QStringLiteral("id")))
+                    set(copy, *id, sensibleValue(*id));
+                set(copy, attribute, word.myText);
+            }
+    }
+
+    /// Ids are new each time.
+    void set(QDomElement theElement, const VelValueDescription& theAttribute, const QString& theText)
+    {
+        const bool isNew =
+            theAttribute.myType == VelValueDescription::TYPE_ID && theAttribute.myVocabulary.myWords.isEmpty();
+        if (!isLeftOut(theAttribute.myNeed))
+            theElement.setAttribute(theAttribute.myName, isNew ? QString::number(++myLastId) : theText);
+    }
+
+    const bool myIsWithIdle;
+    QDomDocument myDocument;
+    int myLastId = 0;
+};
 
 #endif
