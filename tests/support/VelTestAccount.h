@@ -8,6 +8,8 @@
 class TestAccount
 {
 public:
+    TestAccount() {} // not by default, or no constant account could be made without an initialiser
+
     QString path(const QString& theFile = QString()) const { return myFolder.filePath(theFile); }
 
     QFileInfo write(const QString& theFile, const QByteArray& theContent) const
