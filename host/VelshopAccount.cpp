@@ -2,6 +2,7 @@
 
 #include "frame/VelChildElements.h"
 #include "frame/VelTarmInitializer.h"
+#include "host/VelshopJsonReader.h"
 #include "ordering/VelOrderingDetails.h"
 #include "product/VelProductRegistry.h"
 #include "sibling/VelDirectoryConfig.h"
@@ -14,6 +15,8 @@
 namespace {
 
 const QString STR_CURRENCIES_FILE = QStringLiteral("currencies.xml");
+const QString STR_SETTINGS_FILE = QStringLiteral("velshop.json");
+const QString STR_SHOP = QStringLiteral("shop");
 const QString STR_ISO_CODE = QStringLiteral("isocode");
 
 /// Documents are regular files: a device might never end.
@@ -75,8 +78,23 @@ bool openAccount(const QString& theFolder, VelshopError& theError)
 QStringList accountDocuments(const QString& theFolder)
 {
     QStringList files;
-    for (const char* name :
-         {"pricelist.xml", "orderingdetails.xml", "currencies.xml", "appearance.xml", "icons/payment/filenames.xml"})
+    for (const char* name : {"pricelist.xml", "orderingdetails.xml", "currencies.xml", "appearance.xml",
+                             "icons/payment/filenames.xml", "velshop.json"})
         files.append(QDir(theFolder).filePath(QLatin1String(name)));
     return files;
+}
+
+bool readShopName(const QString& theFolder, QString& theName, VelshopError& theError)
+{
+    const QString file = QDir(theFolder).filePath(STR_SETTINGS_FILE);
+    if (!QFileInfo::exists(file))
+        return true;
+    VelshopJsonReader reader(file);
+    const QJsonObject settings = reader.document();
+    if (!reader.isRefused()) {
+        reader.allowKeys(settings, QString(), {STR_SHOP});
+        theName = reader.text(settings.value(STR_SHOP), STR_SHOP);
+    }
+    theError = reader.error();
+    return !reader.isRefused();
 }

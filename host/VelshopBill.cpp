@@ -29,9 +29,10 @@ QList<QStringList> orderTexts(const VelTarmOrder& theOrder)
     return texts;
 }
 
-void printJson(const VelshopBillSheet& theSheet, const QList<QStringList>& theOrderTexts, QTextStream& theOutput)
+void printJson(const VelTarmOrder& theOrder, const VelshopBillSheet& theSheet, const QList<QStringList>& theOrderTexts,
+               QTextStream& theOutput)
 {
-    QJsonObject json = billData(theSheet);
+    QJsonObject json = billData(theOrder, theSheet);
     QJsonArray texts;
     for (const QStringList& lines : theOrderTexts)
         texts.append(QJsonArray::fromStringList(lines));
@@ -56,11 +57,18 @@ bool areOutputsSafe(const VelshopBillArguments& theArguments, const VelshopCart&
     return VelshopOutputFile::areSafe({theArguments.myHtmlFile, theArguments.myDiscountsFile}, inputs, theError);
 }
 
+bool writePage(const VelshopBillArguments& theArguments, const VelTarmOrder& theOrder, const VelshopBillSheet& theSheet,
+               VelshopError& theError)
+{
+    VelshopBillPageHead head{QString(), theArguments.myLanguage};
+    return readShopName(theArguments.myAccount, head.myShop, theError) &&
+           VelshopOutputFile::write(theArguments.myHtmlFile, billPage(theOrder, theSheet, head), theError);
+}
+
 bool writeFiles(const VelshopBillArguments& theArguments, const VelTarmOrder& theOrder,
                 const VelshopBillSheet& theSheet, VelshopError& theError)
 {
-    if (!theArguments.myHtmlFile.isEmpty() &&
-        !VelshopOutputFile::write(theArguments.myHtmlFile, billPage(theSheet), theError))
+    if (!theArguments.myHtmlFile.isEmpty() && !writePage(theArguments, theOrder, theSheet, theError))
         return false;
     return theArguments.myDiscountsFile.isEmpty() || !theSheet.isOrderable() ||
            VelshopOutputFile::write(theArguments.myDiscountsFile, discountDescription(theOrder), theError);
@@ -88,7 +96,7 @@ int billCart(const VelshopBillArguments& theArguments, QTextStream& theOutput, V
         return EXIT_BAD_INPUT;
     const QList<QStringList> texts = theArguments.myHasOrderText ? orderTexts(*order) : QList<QStringList>();
     if (theArguments.myIsJson)
-        printJson(sheet, texts, theOutput);
+        printJson(*order, sheet, texts, theOutput);
     else
         printText(sheet, texts, theOutput);
     if (sheet.isOrderable())

@@ -1,8 +1,10 @@
 #include "host/VelshopBillData.h"
 
+#include "bill/VelTarmOrder.h"
 #include "host/VelshopBillMoney.h"
 #include "host/VelshopBillSheet.h"
 #include "host/VelshopWords.h"
+#include "ordering/VelOrderingDetails.h"
 
 #include <QJsonArray>
 
@@ -71,17 +73,24 @@ QJsonObject toJson(const VelshopBillCoupon& theCoupon)
 
 } // namespace
 
-QJsonObject billData(const VelshopBillSheet& theSheet)
+QJsonObject billData(const VelTarmOrder& theOrder, const VelshopBillSheet& theSheet)
 {
     QJsonArray groups;
     for (const VelshopBillGroup& group : theSheet.myGroups)
         groups.append(toJson(group));
     const bool isOrderable = theSheet.isOrderable();
-    QJsonObject json{{QStringLiteral("order"), theSheet.myHead},
-                     {QStringLiteral("currency"), VelshopBillMoney::code(false)},
-                     {QStringLiteral("groups"), groups},
-                     {QStringLiteral("orderable"), isOrderable},
-                     {QStringLiteral("sums"), isOrderable ? QJsonValue(toJson(theSheet.mySums)) : QJsonValue()}};
+    const VelPaymentType payment = theOrder.status().payment();
+    const QString paymentName =
+        VelOrderingDetails::instance()->nameOfOrderingDetail(PAYMENT_CLASS_PAY_METHODS, payment);
+    QJsonObject json{
+        {QStringLiteral("orderSource"), VelshopWords::orderSourceData(theOrder.status().orderSource())},
+        {QStringLiteral("payment"),
+         QJsonObject{{QStringLiteral("type"), payment}, {QStringLiteral("name"), paymentName}}},
+        {QStringLiteral("express"), QString::number(theOrder.expressType().value() - ExpressableType_STANDARD)},
+        {QStringLiteral("currency"), VelshopBillMoney::code(false)},
+        {QStringLiteral("groups"), groups},
+        {QStringLiteral("orderable"), isOrderable},
+        {QStringLiteral("sums"), isOrderable ? QJsonValue(toJson(theSheet.mySums)) : QJsonValue()}};
     if (theSheet.myCoupon)
         json.insert(QStringLiteral("coupon"), toJson(*theSheet.myCoupon));
     return json;

@@ -23,7 +23,7 @@ const QVector<VelshopOption>& VelshopOptions::all()
         {STR_MAPS, QStringLiteral("N"), QStringLiteral("Areas with a map.")},
         {STR_VIDEOS, QStringLiteral("N"), QStringLiteral("Areas with a video.")},
         {STR_TEMPLATE, QStringLiteral("CLASS=N"), QStringLiteral("Uses of templates of a price class."), true},
-        {STR_HTML, QStringLiteral("FILE"), QStringLiteral("Write the same as a page that can be printed.")},
+        {STR_HTML, QStringLiteral("FILE"), QStringLiteral("Write a page, to read in a browser and to print.")},
         {STR_DISCOUNTS, QStringLiteral("FILE"), QStringLiteral("Write the description of the discounts as XML.")},
         {STR_ORDER_TEXT, QString(), QStringLiteral("Print the order-text lines of each product, too.")},
     };

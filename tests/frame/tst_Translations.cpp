@@ -17,7 +17,7 @@ private slots:
         QFile gathered(folder.filePath("gathered_en.ts"));
         QVERIFY(QFile::copy(VELTARM_SOURCE_DIR "/translations/veltarm_en.ts", gathered.fileName()));
         QStringList arguments{"-silent", "-locations", "none"};
-        for (const char* part : {"frame", "price", "bill", "product", "ordering"})
+        for (const char* part : {"frame", "price", "bill", "product", "ordering", "host"})
             arguments.append(QStringLiteral(VELTARM_SOURCE_DIR "/%1").arg(part));
         QCOMPARE(QProcess::execute(LUPDATE_PROGRAM, arguments + QStringList{"-ts", gathered.fileName()}), 0);
         QVERIFY(gathered.open(QIODevice::ReadOnly));

@@ -288,16 +288,30 @@ private slots:
         }
     }
 
+    void billAsPage_data()
+    {
+        readTable(R"(
+            row        | cart                      | language | exitCode | texts
+            in German  | shop/carts/small.json     | de | 0 | Fotohaus Lindenhof; <dd>per Post</dd>; <dd>Rechnung</dd>; 16,20 &#8364;; CHF 20.25; Zu zahlen; prefers-color-scheme: dark
+            in English | shop/carts/showcase.json  | en | 0 | lang="en"; <dd>on the internet</dd>; <dd>Express</dd>; package of 100 pieces; delivery in 3–5 days; -7,78 &#8364;; To pay
+            refused    | shop/carts/unpriced.json  | en | 1 | Index print for your CD: has no price for this way of ordering; This order can't be placed
+        )");
+    }
+
+    /// A page for customers: in one language, with names where the desk has numbers and words of its own.
     void billAsPage()
     {
         const TestAccount folder;
-        QCOMPARE(bill("shop/carts/small.json", {"--html", folder.path("bill.html")}).exitCode, 0);
-        const QByteArray page = content(folder.path("bill.html"));
+        const QString file = folder.path("bill.html");
+        QCOMPARE(bill(cell("cart"), {"--html", file, "--language", cell("language")}).exitCode, number("exitCode"));
+        const QByteArray page = content(file);
         QVERIFY2(QDomDocument().setContent(page), page);
-        for (const char* text : {"<table", "16,20 &#8364;", "CHF 20.25", "0,25 &#8364;", "prefers-color-scheme: dark"})
-            QVERIFY2(page.contains(text), text);
-        QVERIFY(!page.contains("<script"));
-        QCOMPARE(bill("shop/carts/small.json", {"--html", folder.path("none/bill.html")}).exitCode, 2);
+        for (const QString& text : cell("texts").split("; "))
+            QVERIFY2(page.contains(text.toUtf8()), qPrintable(text + "\n" + page));
+        for (const char* jargon : {"NET", "MAIL", "level", "shipping group", "<script"})
+            QVERIFY2(!page.contains(jargon), jargon);
+        for (const char* german : {"Stück", "Betrag", "Lieferung", "Bestell"})
+            QVERIFY(page.contains(german) == (cell("language") == "de"));
     }
 
     /// On a disk that is full the former file stays, and nothing half-written. A limit on the size of files stands for
@@ -384,6 +398,7 @@ private slots:
     {
         const QJsonDocument order = json("bill shop/carts/showcase.json");
         QCOMPARE(order["sums"]["total"].toInt(), 15380);
+        QVERIFY(order["orderSource"]["source"].toString() == "NET" && order["payment"]["type"].toInt() == 8);
         const QJsonValue group = order["groups"][1];
         QCOMPARE(group["sums"]["coupon"].toInt(), -778);
         QCOMPARE(group["sums"]["CHF"]["total"].toString(), "CHF 158.81");
