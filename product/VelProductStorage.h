@@ -10,7 +10,8 @@
  * in two runs.
  *
  * So products live in rising storage, in the order in which they are first read, main products below add-ons, also when
- * a later load adds more of either. When the storage is used up, products come from the heap, with one warning.
+ * a later load adds more of either. Memory is taken in steps, as products come. When the storage is used up, or the
+ * system refuses a step, products come from the heap, with one warning of each.
  */
 namespace VelProductStorage {
 

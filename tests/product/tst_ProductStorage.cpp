@@ -1,7 +1,13 @@
 #include "product/VelProductStorage.h"
 #include "support/VelTestPriceList.h"
 
+#include <QProcess>
+
+#include <sys/resource.h>
+
 using namespace VelProductStorage;
+
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes() __attribute__((weak));
 
 /// The storage is that of the whole program, so the order of the tests matters.
 class ProductStorageTest : public QObject
@@ -42,6 +48,37 @@ private slots:
         QCOMPARE(articlesOf(bill(1, "6x1 7x1 8x1 9x1 30x1 31x1").orderPositions()), "9 8 7 6 31 30");
         const auto address = [](int theId) { return reinterpret_cast<quintptr>(product(theId)); };
         QCOMPARE(address(7) - address(8), address(8) - address(9));
+    }
+
+    /// The order holds in a process that can't have much address space, too.
+    void littleAddressSpace()
+    {
+        if (__sanitizer_get_current_allocated_bytes)
+            QSKIP("sanitizers need all addresses");
+        QProcess child;
+        child.start("/bin/sh",
+                    {"-c", "ulimit -v 330000; exec \"$0\" readingOrder", QCoreApplication::applicationFilePath()});
+        QVERIFY(child.waitForFinished());
+        QCOMPARE(child.exitCode(), 0);
+        QVERIFY(!child.readAll().contains("VelProductStorage"));
+    }
+
+    /// A refusal isn't told as a full storage, and it isn't for ever.
+    void refusal()
+    {
+        if (__sanitizer_get_current_allocated_bytes)
+            QSKIP("sanitizers need all addresses");
+        const MessageCatcher messages;
+        rlimit former{};
+        getrlimit(RLIMIT_AS, &former);
+        const rlimit none{0, former.rlim_max};
+        setrlimit(RLIMIT_AS, &none);
+        for (int i = 0; i < 1 << 16 && messages.texts().isEmpty(); ++i)
+            allocate(SHELF_ARTICLES, 64);
+        setrlimit(RLIMIT_AS, &former);
+        QVERIFY(messages.texts().value(0).contains("refuses storage"));
+        const auto* const next = static_cast<char*>(allocate(SHELF_ARTICLES, 64));
+        QCOMPARE(static_cast<void*>(allocate(SHELF_ARTICLES, 64)), static_cast<const void*>(next + 64));
     }
 
     void exhaustion()
