@@ -42,6 +42,15 @@ Cart BillShop::cart(int theArticles, AddOns theAddOns, int theNumber) const
     return cart;
 }
 
+Cart BillShop::cartOfKind(int theArticles, int theKind) const
+{
+    Cart cart;
+    for (int line = 0; line < theArticles; ++line)
+        add(cart, firstArticleId(myArticleCount) + (line * 37 * KINDS + theKind) % myArticleCount,
+            1 + line * 13 % MAX_COUNT);
+    return cart;
+}
+
 // ---- bills
 
 VelTarmBill libraryBill(const Cart& theCart, int theGroup)

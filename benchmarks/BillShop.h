@@ -23,6 +23,9 @@ public:
     /// A cart of so many articles, spread over the list, and further add-ons. Carts of different numbers differ.
     Cart cart(int theArticles, AddOns theAddOns, int theNumber) const;
 
+    /// A cart of so many articles of one kind, see SyntheticShop.
+    Cart cartOfKind(int theArticles, int theKind) const;
+
 private:
     explicit BillShop(int theArticleCount) : myArticleCount(theArticleCount) {}
 

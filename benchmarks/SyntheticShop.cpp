@@ -8,7 +8,6 @@ namespace {
 
 using Attributes = QVector<QPair<const char*, QString>>;
 
-const int KINDS = 10;
 const int ID_SPREAD = 20; // keeps the ids of sizes apart that differ by a twentieth or more
 const int BOOK_ID_WITHOUT_ADD_ONS = 9210;
 const int BOOKS = 2;
@@ -104,7 +103,7 @@ void writePrices(PriceListWriter& theWriter, int theNumber)
         theWriter.price('B', 0, 0, price, transfer + pickup);
         theWriter.price('B', 0, 0, price + 10, transfer + mail);
     } else {
-        theWriter.price('B', 0, 0, price, kind == 8 ? transfer + offer : transfer);
+        theWriter.price('B', 0, 0, price, kind == KIND_OFFER ? transfer + offer : transfer);
     }
     theWriter.end();
     if (kind == 9)
@@ -119,7 +118,7 @@ void writePrices(PriceListWriter& theWriter, int theNumber)
         theWriter.price(letters[0], 2, 51, price * 38);
         theWriter.price(letters[1], 3, 101, price * 7 / 10);
     } else {
-        writeLadder(theWriter, price, Attributes());
+        writeLadder(theWriter, price, kind == KIND_OFFER ? offer : Attributes());
     }
     theWriter.end();
 }

@@ -19,6 +19,12 @@ int firstArticleId(int theArticleCount);
 int firstAddOnId(int theArticleCount);
 int firstWideAddOnId(int theArticleCount);
 
+/// Each tenth article is of one kind, by its number: a plain ladder, the same as an offer that still runs, whose end is
+/// told in local time, and others.
+const int KINDS = 10;
+const int KIND_LADDER = 1;
+const int KIND_OFFER = 8;
+
 const int ARTICLES_PER_ADD_ON = 20;
 const int WIDE_ADD_ONS = 4;
 const int BOOK_ID = 9171;

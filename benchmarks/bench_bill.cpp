@@ -1,9 +1,11 @@
 #include "benchmarks/BillShop.h"
 #include "benchmarks/SyntheticShop.h"
 #include "bill/VelTarmBill.h"
+#include "bill/VelTarmBillPositionAbstract.h"
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <map>
 #include <tuple>
 #include <vector>
@@ -93,6 +95,20 @@ void billInShop(benchmark::State& theState, AddOns theAddOns)
     measure(theState, carts, [](const Cart& theCart) { return libraryTotal(theCart, GROUP_BY_QUANTITY); });
 }
 
+/// Twenty articles that are all plain ladders, or all such ladders on offer.
+void billOfKind(benchmark::State& theState, int theKind)
+{
+    Carts carts;
+    carts.myCarts.push_back(BillShop::of(ARTICLES).cartOfKind(20, theKind));
+    const VelTarmBill bill = libraryBill(carts.myCarts.front(), GROUP_BY_QUANTITY);
+    const VelTarmBillPositionList lines = bill.orderPositions();
+    const auto isOnOffer = [](const auto* theLine) { return theLine->nonOfferPrice() != -1; };
+    carts.myFault = faultOf(bill);
+    if (std::count_if(lines.begin(), lines.end(), isOnOffer) != (theKind == KIND_OFFER ? 20 : 0))
+        carts.myFault = "not the offers that were asked for";
+    measure(theState, carts, [](const Cart& theCart) { return libraryTotal(theCart, GROUP_BY_QUANTITY); });
+}
+
 #define CARTS_OF_SIZES                                                                                                 \
     ArgNames({"lines", "group", "addons"})                                                                             \
         ->ArgsProduct({{1, 20, 200}, {GROUP_BY_QUANTITY, GROUP_TRANSFER_MODEL_2}, {0, ADD_ONS_IN_CART}})               \
@@ -106,6 +122,8 @@ BENCHMARK_CAPTURE(bill, sameCart, 1)->CARTS_OF_SIZES;
 BENCHMARK_CAPTURE(bill, carts500, CARTS)->CARTS_OF_20;
 BENCHMARK_CAPTURE(billFinalCost, sameCart, 1)->ONE_CART;
 BENCHMARK_CAPTURE(billPositions, sameCart, 1)->ONE_CART;
+BENCHMARK_CAPTURE(billOfKind, offers, KIND_OFFER);
+BENCHMARK_CAPTURE(billOfKind, ladders, KIND_LADDER);
 BENCHMARK_CAPTURE(billInShop, addOnsOfFew, AddOns::OF_FEW_ARTICLES)->Arg(1000)->Arg(10000)->Arg(50000);
 BENCHMARK_CAPTURE(billInShop, addOnsOfMany, AddOns::OF_MANY_ARTICLES)->Arg(1000)->Arg(10000)->Arg(50000);
 

@@ -39,6 +39,7 @@ const Comparison COMPARISONS[] = {
     {"plainBill/carts500", "flatBill/carts500", Bound::AT_MOST, 20},
     {"sqliteBill/sameCart", "plainBill/sameCart", Bound::AT_LEAST, 8},
     {"sqliteBill/carts500", "plainBill/carts500", Bound::AT_LEAST, 2},
+    {"billOfKind/offers", "billOfKind/ladders", Bound::AT_MOST, 1.3},
     {"billInShop/addOnsOfFew/50000", "billInShop/addOnsOfFew/1000", Bound::AT_MOST, 1.5},
     {"billInShop/addOnsOfMany/50000", "billInShop/addOnsOfMany/1000", Bound::AT_MOST, 1.5},
     {"sortByNumberPerComparison", "sortByNumberOnce", Bound::AT_LEAST, 20},

@@ -63,8 +63,10 @@ void VelTarmBill::init()
     myEntries.reserve(static_cast<std::size_t>(items.size()));
     for (auto item = items.cbegin(); item != items.cend(); ++item) // fetched side by side, priced one by one
         item.key()->tarmArticle()->prefetchPrices(key.orderSource());
+    myHoldsPresent = true;
     for (auto item = items.cbegin(); item != items.cend(); ++item)
         item.key()->priceFor(key, item.value(), 0, this, &myStatistic);
+    myHoldsPresent = false;
     const bool isFree = std::any_of(myEntries.cbegin(), myEntries.cend(), [](const VelTarmBillEntry& theEntry) {
         return theEntry.line().myDiscountModel == DISCOUNT_MODEL_PACKAGE;
     });
@@ -155,6 +157,13 @@ void VelTarmBill::dump() const
 }
 
 // ---- changing
+
+qint64 VelTarmBill::present()
+{
+    if (!myHoldsPresent || myPresent == 0)
+        myPresent = QDateTime::currentMSecsSinceEpoch();
+    return myPresent;
+}
 
 void VelTarmBill::addLine(const VelTarmBillLine& theLine)
 {

@@ -77,6 +77,10 @@ public:
     /// Appends a line, of which a position is made when one is asked for.
     void addLine(const VelTarmBillLine& theLine);
 
+    /// What tells a running offer from one that is over, in milliseconds since the epoch: while the bill is made, one
+    /// moment for all its lines, afterwards the clock.
+    qint64 present();
+
     /// The highest discount level that a main product of the add-on has, each by its first position; 0 for none, and
     /// at least 0.
     int highestLevelOfMainProducts(const VelProductAddOn& theAddOn) const;
@@ -181,6 +185,8 @@ private:
     bool myPaymentAgioEnabled = true;
     TransferState myTransferState = TRANSFER_STATE_COMPUTE;
     int myStoredTransferFee = 0;
+    bool myHoldsPresent = false;
+    qint64 myPresent = 0; ///< 0 until it is asked for
 };
 
 #endif

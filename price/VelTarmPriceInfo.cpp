@@ -285,8 +285,11 @@ int VelTarmPriceInfo::unitTransferPriceInTransferModel2(const VelTarmPriceKey& t
 
 // ---- what is charged, as lines of a bill
 
-VelTarmBillLine VelTarmPriceInfo::line(const VelTarmPriceCharge& theCharge) const
+/// The clock is read only where there is an old price to show.
+VelTarmBillLine VelTarmPriceInfo::line(const VelTarmPriceCharge& theCharge, VelTarmBill* theBill) const
 {
+    const VelTarmPriceValue& value = theCharge.myBand->value();
+    const auto present = [=] { return theBill ? theBill->present() : QDateTime::currentMSecsSinceEpoch(); };
     VelTarmBillLine line;
     line.myKind = VelTarmBillLine::PRICED;
     line.myProduct = myProduct;
@@ -296,7 +299,7 @@ VelTarmBillLine VelTarmPriceInfo::line(const VelTarmPriceCharge& theCharge) cons
     line.myUnitPrice = theCharge.myBand->price();
     line.myUnitCount = theCharge.myUnits;
     line.myDiscountItemsPerUnit = theCharge.myItemsPerUnit;
-    line.myNonOfferPrice = theCharge.myBand->value().shownNonOfferPrice();
+    line.myNonOfferPrice = value.nonOfferPrice() == -1 ? -1 : value.shownNonOfferPrice(present());
     line.myPrice = VelArithmetic::product(line.myUnitPrice, line.myUnitCount);
     return line;
 }
@@ -327,7 +330,7 @@ int VelTarmPriceInfo::chargeTo(VelTarmBill* theBill, const VelTarmPriceAnswer& t
         theBill->addLine(withoutPrice);
     }
     for (const VelTarmPriceCharge& charge : theAnswer)
-        theBill->addLine(line(charge));
+        theBill->addLine(line(charge, theBill));
     return theAnswer.myPrice;
 }
 
@@ -336,6 +339,6 @@ int VelTarmPriceInfo::chargeTo(VelTarmBillPositionList* thePositions, const VelT
     if (!thePositions)
         return theAnswer.myPrice;
     for (const VelTarmPriceCharge& charge : theAnswer)
-        thePositions->append(new VelTarmBillPosition(line(charge)));
+        thePositions->append(new VelTarmBillPosition(line(charge, nullptr)));
     return theAnswer.myPrice;
 }

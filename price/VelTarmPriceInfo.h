@@ -131,7 +131,7 @@ public:
 
 private:
     int inheritedLevel(const VelTarmBill* theBill) const;
-    VelTarmBillLine line(const VelTarmPriceCharge& theCharge) const;
+    VelTarmBillLine line(const VelTarmPriceCharge& theCharge, VelTarmBill* theBill) const;
     VelTarmBillLine lineOfTransferModel2(int theTotal) const;
     int chargeTo(VelTarmBill* theBill, const VelTarmPriceAnswer& theAnswer) const;
     int chargeTo(VelTarmBillPositionList* thePositions, const VelTarmPriceAnswer& theAnswer) const;

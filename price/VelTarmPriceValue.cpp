@@ -27,6 +27,7 @@ VelTarmPriceValue::VelTarmPriceValue(const QDomElement& theEntry)
     , myBaseTransferPrice(VelXMLParser::intAttribute(theEntry, STR_TRANSFER_BASE_PRICE, 0))
     , myNonOfferPrice(VelXMLParser::intAttribute(theEntry, STR_NON_OFFER_PRICE, -1))
     , myEndOfferDate(VelXMLParser::dateTimeAttribute(theEntry, STR_END_OFFER_DATE, Qt::ISODate, defaultEndOfOffer()))
+    , myEndOfOffer(myNonOfferPrice == -1 ? 0 : myEndOfferDate.toMSecsSinceEpoch()) // asks the system for the time zone
 {
 }
 
@@ -41,12 +42,4 @@ bool VelTarmPriceValue::operator==(const VelTarmPriceValue& theOther) const
     return myPrice == theOther.myPrice && myDiscountLimit == theOther.myDiscountLimit &&
            myUnitTransferPrice == theOther.myUnitTransferPrice && myBaseTransferPrice == theOther.myBaseTransferPrice &&
            myNonOfferPrice == theOther.myNonOfferPrice && myEndOfferDate == theOther.myEndOfferDate;
-}
-
-/// The clock is read only where there is an old price to show.
-int VelTarmPriceValue::shownNonOfferPrice() const
-{
-    if (myNonOfferPrice == -1)
-        return -1;
-    return QDateTime::currentMSecsSinceEpoch() < myEndOfferDate.toMSecsSinceEpoch() ? myNonOfferPrice : -1;
 }

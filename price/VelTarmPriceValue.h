@@ -43,8 +43,10 @@ public:
     /// When the offer ends; the Unix epoch without one.
     QDateTime endOfferDate() const { return myEndOfferDate; }
 
-    /// nonOfferPrice() for as long as the offer runs, then -1. The amount itself is not touched by an offer.
-    int shownNonOfferPrice() const;
+    /// nonOfferPrice() while the present, in milliseconds since the epoch, lies before the end of the offer, then -1.
+    /// The amount itself is not touched by an offer. A date without offset means local time; which moment that is, is
+    /// settled while reading: a process that changes its time zone has to load again.
+    int shownNonOfferPrice(qint64 thePresent) const { return thePresent < myEndOfOffer ? myNonOfferPrice : -1; }
 
     /// When the price holds, and the parts of that as VelDiscountLimit states them.
     VelDiscountLimit discountLimit() const { return myDiscountLimit; }
@@ -66,6 +68,7 @@ private:
     int myBaseTransferPrice;
     int myNonOfferPrice;
     QDateTime myEndOfferDate;
+    qint64 myEndOfOffer; ///< the same in milliseconds since the epoch; 0 where no old price can be shown
 };
 
 Q_DECLARE_TYPEINFO(VelTarmPriceValue, Q_MOVABLE_TYPE);
