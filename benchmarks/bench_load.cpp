@@ -3,6 +3,7 @@
 #include "product/VelProductStorage.h"
 
 #include <QDomDocument>
+#include <QFile>
 
 #include <benchmark/benchmark.h>
 
@@ -10,6 +11,7 @@
 #include <memory>
 
 #include <malloc.h>
+#include <unistd.h>
 
 namespace {
 
@@ -90,8 +92,7 @@ const char* nextOn(VelProductStorage::Shelf theShelf)
     return static_cast<const char*>(next);
 }
 
-/// What the heap and the shelves hold now. The shelves' reserve is part of the heap, used or not: only a difference
-/// says anything.
+/// What the heap and the shelves hold now. The shelves count from any point: only a difference says anything.
 std::int64_t liveBytes()
 {
     using namespace VelProductStorage;
@@ -116,11 +117,41 @@ void liveMemory(benchmark::State& theState)
     theState.counters["of_file"] = live / file.bytes().size();
 }
 
+/// In bytes: the pages of the process that stand in memory now; 0 where the system doesn't tell.
+std::int64_t residentBytes()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
+}
+
+/// By how much the process grows by a load and so many reloads, in bytes for each byte of the file.
+void residentMemory(benchmark::State& theState, int theReloads)
+{
+    const PriceListFile& file = PriceListFile::ofKeyAccount(countOf(theState));
+    malloc_trim(0); // what the making of the file left
+    const std::int64_t before = residentBytes();
+    std::unique_ptr<VelProductRegistry> registry;
+    for (auto _ : theState) {
+        registry = std::make_unique<VelProductRegistry>();
+        for (int reload = 0; reload < theReloads; ++reload)
+            registry->loadAllProducts();
+    }
+    if (before == 0)
+        theState.SkipWithError("the system doesn't tell the resident memory");
+    const auto growth = static_cast<double>(residentBytes() - before);
+    theState.counters["resident_bytes"] = growth;
+    theState.counters["of_file"] = growth / file.bytes().size();
+}
+
 #define SIZES Arg(1000)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond)
 BENCHMARK(bareParse)->SIZES;
 BENCHMARK(load)->SIZES;
 BENCHMARK(reload)->SIZES;
 BENCHMARK(reloadObjects)->SIZES;
 BENCHMARK(liveMemory)->SIZES->Iterations(1);
+BENCHMARK_CAPTURE(residentMemory, load, 0)->SIZES->Iterations(1);
+BENCHMARK_CAPTURE(residentMemory, reloads10, 10)->SIZES->Iterations(1);
 
 } // namespace

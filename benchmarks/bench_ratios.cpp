@@ -34,6 +34,7 @@ const Comparison COMPARISONS[] = {
     {"reloadObjects", "bareParse", Bound::AT_MOST, 0.35},
     {"reload", "bareParse", Bound::NONE, 0},
     {"liveMemory", nullptr, Bound::AT_MOST, 4.5},
+    {"residentMemory", nullptr, Bound::AT_MOST, 4},
     {"plainBill/sameCart/lines:20", "flatBill/sameCart/lines:20", Bound::AT_MOST, 25},
     {"plainBill/sameCart", "flatBill/sameCart", Bound::NONE, 0},
     {"plainBill/carts500", "flatBill/carts500", Bound::AT_MOST, 20},

@@ -1,6 +1,7 @@
 #include "bill/VelTarmArticle.h"
 
 #include "frame/VelArithmetic.h"
+#include "frame/VelKeptTexts.h"
 #include "product/VelProductStorage.h"
 #include "sibling/VelXMLParser.h"
 
@@ -165,8 +166,8 @@ void VelTarmArticle::updateSizeInformation(const QDomElement& theElement)
 
 void VelTarmArticle::updateNameInformation(const QDomElement& theElement)
 {
-    myName = VelXMLParser::attribute(theElement, STR_NAME, myName);
-    myEditorName = VelXMLParser::attribute(theElement, STR_EDITOR_NAME, QStringLiteral(""));
+    myName = VelKeptTexts::kept(VelXMLParser::attribute(theElement, STR_NAME, myName));
+    myEditorName = VelKeptTexts::kept(VelXMLParser::attribute(theElement, STR_EDITOR_NAME, QStringLiteral("")));
     const int articleID = VelXMLParser::intAttribute(theElement, STR_ID, 0);
     if (articleID != myArticleID)
         ++myIdChanges;

@@ -1,6 +1,7 @@
 #include "bill/VelTarmOrderTxtContent.h"
 
 #include "frame/VelChildElements.h"
+#include "frame/VelKeptTexts.h"
 #include "sibling/VelXMLParser.h"
 
 namespace {
@@ -25,7 +26,7 @@ QString VelTarmOrderTxtContent::orderTxtValue(const QString& theKey) const
     for (const QString& line : myLines) {
         if (!line.startsWith(prefix, Qt::CaseInsensitive))
             continue;
-        const QString value = line.mid(prefix.length());
+        const QString value = VelKeptTexts::kept(line.mid(prefix.length()));
         myValueCache.insert(theKey, value);
         return value;
     }
@@ -37,9 +38,9 @@ void VelTarmOrderTxtContent::update(const QDomElement& theArticle)
     const QDomElement content = theArticle.firstChildElement(STR_ORDER_TXT_LINES);
     if (content.isNull())
         return;
-    myHead = VelXMLParser::attribute(content, STR_HEAD, QString());
+    myHead = VelKeptTexts::kept(VelXMLParser::attribute(content, STR_HEAD, QString()));
     myLines.clear();
     myValueCache.clear();
     for (const QDomElement& line : VelChildElements(content))
-        myLines.append(line.text());
+        myLines.append(VelKeptTexts::kept(line.text()));
 }

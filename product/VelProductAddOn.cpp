@@ -1,6 +1,7 @@
 #include "product/VelProductAddOn.h"
 
 #include "frame/VelChildElements.h"
+#include "frame/VelKeptTexts.h"
 #include "product/VelProductStorage.h"
 #include "sibling/VelXMLParser.h"
 
@@ -27,7 +28,7 @@ const QStringList& orderableByUser()
 
 VelProductAddOn::VelProductAddOn(const QDomElement& theElement)
     : VelProductAbstract(theElement, PRODUCT_CLASS_ADD_ON)
-    , myProductClassWord(VelXMLParser::attribute(theElement, STR_PRODUCT_CLASS, QString()))
+    , myProductClassWord(VelKeptTexts::kept(VelXMLParser::attribute(theElement, STR_PRODUCT_CLASS, QString())))
 {
     const QDomElement links = theElement.namedItem(STR_LINKED_ARTICLES).toElement();
     for (const QDomElement& link : VelChildElements(links, STR_LINKED_ARTICLE)) {

@@ -2,7 +2,9 @@
 
 #include "bill/VelTarmArticle.h"
 #include "frame/VelChildElements.h"
+#include "frame/VelDocumentMemory.h"
 #include "frame/VelGuardedInstance.h"
+#include "frame/VelKeptTexts.h"
 #include "ordering/VelCurrencyConfig.h"
 #include "price/VelDiscountLimit.h"
 #include "product/VelProductAddOn.h"
@@ -114,13 +116,15 @@ void VelProductRegistry::loadAllProducts()
 
 void VelProductRegistry::loadAllProducts(const QFileInfo& theProductListFileInfo)
 {
-    const QDomElement root = VelXMLLoader::loadDocumentElement(theProductListFileInfo);
+    QDomElement root = VelXMLLoader::loadDocumentElement(theProductListFileInfo);
     myLastLoad = VelTarmLoadResult(theProductListFileInfo, root);
     updateProducts(root);
+    VelDocumentMemory::giveBack(root, theProductListFileInfo);
 }
 
 void VelProductRegistry::updateProducts(const QDomNode& theNode)
 {
+    const VelKeptTexts reading;
     const auto knownProducts = static_cast<int>(myProductList.size());
     myFotoBookCache->clear();
     setProductsDeprecated();

@@ -107,6 +107,20 @@ private slots:
         QCOMPARE(groups->activeProductGroups().size(), 9); // one add-on makes all of them active
     }
 
+    /// No text shares the document's memory, which would stay in the process with it; equal texts of a load are one.
+    void ownTexts()
+    {
+        const QDomElement list = parsedElement("<list><articles><article id='1' arrangement='trivial' name='same'>"
+                                               "<order_txt_lines head='same'/></article>"
+                                               "<article id='2' arrangement='trivial' name='same'/></articles></list>");
+        myRegistry->updateProducts(list);
+        const auto text = [this](int theId) { return myRegistry->productWithArticleID(theId)->name().constData(); };
+        const QDomElement article = list.firstChildElement().firstChildElement();
+        QVERIFY(text(1) != article.attribute("name").constData());
+        QCOMPARE(text(1), text(2));
+        QCOMPARE(text(1), myRegistry->productWithArticleID(1)->orderTxtHead().constData());
+    }
+
     void sections()
     {
         QSignalSpy updated(myRegistry.data(), &VelProductRegistry::priceListUpdated);
