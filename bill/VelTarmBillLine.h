@@ -16,12 +16,12 @@ struct VelTarmBillLine
         OF_THE_HOST    ///< a position of a kind that the host has made up
     };
 
-    Kind myKind = WITHOUT_PRICE;
-    VelProductAbstract* myProduct = nullptr;
-    int myCountItems = 0; ///< sold pieces
-    VelDiscountModel myDiscountModel = DISCOUNT_MODEL_UNDEFINED;
-    int myDiscountLevel = 0;
-    int myUnitPrice = 0;
+    Kind myKind = WITHOUT_PRICE;                                 ///< what kind of position is made of it
+    VelProductAbstract* myProduct = nullptr;                     ///< what the line is for
+    int myCountItems = 0;                                        ///< sold pieces
+    VelDiscountModel myDiscountModel = DISCOUNT_MODEL_UNDEFINED; ///< the rule that priced it
+    int myDiscountLevel = 0;                                     ///< the level that was reached
+    int myUnitPrice = 0;                                         ///< the price of a unit
     int myUnitCount = 0;            ///< units that are charged; a unit may be a package of several pieces
     int myDiscountItemsPerUnit = 0; ///< above 1 the line is a package
     int myNonOfferPrice = 0;        ///< the old price of a unit, -1 when no offer is running

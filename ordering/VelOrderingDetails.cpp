@@ -49,7 +49,6 @@ const int ID_CREDIT_CARDS = 1;
 const int ID_ONLINE_TRANSFER_METHODS = 9;
 const int ID_ONLINE_TRANSFER_METHODS_IN_NAMES = 4;
 const int SHIPPING_GROUP_ON_SITE = 23;
-const unsigned int SUPPORTED_PAYMENT_TYPES = 0xD70F; // 0 to 3, 8, 9, 10, 12, 14 and 15, by bit
 
 QString generalPackageDescription()
 {
@@ -169,7 +168,21 @@ QList<VelOrderingDetailItem*> VelOrderingDetails::itemsOf(VelPaymentClass thePay
 
 bool VelOrderingDetails::isSupportedETPaymentType(int theType) const
 {
-    return theType >= 0 && theType <= PAYMENT_TYPE_15 && (SUPPORTED_PAYMENT_TYPES >> theType) % 2 == 1;
+    switch (theType) {
+    case PAYMENT_TYPE_0:
+    case PAYMENT_TYPE_1:
+    case PAYMENT_TYPE_2:
+    case PAYMENT_TYPE_3:
+    case PAYMENT_TYPE_8:
+    case PAYMENT_TYPE_9:
+    case PAYMENT_TYPE_10:
+    case PAYMENT_TYPE_12:
+    case PAYMENT_TYPE_14:
+    case PAYMENT_TYPE_15:
+        return true;
+    default: // PAYMENT_TYPE_5, too
+        return false;
+    }
 }
 
 QList<VelPaymentType> VelOrderingDetails::availableMailOrderPaymentTypes() const
