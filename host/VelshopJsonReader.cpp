@@ -1,5 +1,7 @@
 #include "host/VelshopJsonReader.h"
 
+#include "host/VelshopJsonPlace.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -28,13 +30,12 @@ QString shown(const QJsonValue& theValue)
 void VelshopJsonReader::refuse(const QString& thePlace, const QString& theReason)
 {
     if (!isRefused())
-        myError = {myFile, 0, 0, thePlace + QStringLiteral(": ") + theReason};
+        refuseAt(VelshopJsonPlace::offsetOf(myBytes, thePlace), thePlace + QStringLiteral(": ") + theReason);
 }
 
-/// The parser's offset lies behind the last character that it took.
-void VelshopJsonReader::refuseSyntax(const QByteArray& theBytes, int theOffset, const QString& theReason)
+void VelshopJsonReader::refuseAt(int theOffset, const QString& theReason)
 {
-    const QByteArray before = theBytes.left(qMax(0, theOffset - 1));
+    const QByteArray before = myBytes.left(theOffset);
     const int line = before.count('\n') + 1;
     const int column = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).size() + 1;
     myError = {myFile, line, column, theReason};
@@ -62,15 +63,15 @@ QByteArray VelshopJsonReader::content()
 
 QJsonObject VelshopJsonReader::document()
 {
-    const QByteArray bytes = content();
+    myBytes = content();
     if (isRefused())
         return QJsonObject();
     QJsonParseError error;
-    const QJsonDocument json = QJsonDocument::fromJson(bytes, &error);
+    const QJsonDocument json = QJsonDocument::fromJson(myBytes, &error);
     if (error.error != QJsonParseError::NoError)
-        refuseSyntax(bytes, error.offset, error.errorString());
+        refuseAt(qMax(0, error.offset - 1), error.errorString()); // the offset lies behind the last character taken
     else if (!json.isObject())
-        refuseSyntax(bytes, 0, QStringLiteral("must be an object"));
+        refuseAt(0, QStringLiteral("must be an object"));
     return json.object();
 }
 

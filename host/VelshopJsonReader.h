@@ -3,6 +3,7 @@
 
 #include "host/VelshopError.h"
 
+#include <QByteArray>
 #include <QJsonObject>
 #include <QStringList>
 
@@ -32,10 +33,11 @@ public:
     QJsonArray array(const QJsonValue& theValue, const QString& thePlace);
 
 private:
+    void refuseAt(int theOffset, const QString& theReason);
     QByteArray content();
-    void refuseSyntax(const QByteArray& theBytes, int theOffset, const QString& theReason);
 
     QString myFile;
+    QByteArray myBytes;
     VelshopError myError;
 };
 

@@ -14,7 +14,9 @@ bool readCoupons(const VelshopCart& theCart, QList<VelCoupon>& theCoupons, Velsh
     const QFileInfo file(theCart.myCouponFile);
     const QDomElement document = VelXMLLoader::loadDocumentElement(file);
     if (document.isNull()) {
-        theError = {theCart.myFile, 0, 0, QStringLiteral("coupon: ") + VelTarmLoadResult(file, document).problem()};
+        const VelTarmLoadResult load(file, document);
+        theError = {load.file(), load.line(), load.column(),
+                    QStringLiteral("%1 (coupon of %2)").arg(load.reason(), theCart.myFile)};
         return false;
     }
     theCoupons.append(VelCoupon(theCart.myCouponId, document));

@@ -193,12 +193,12 @@ private slots:
             a comma too many     | 2 | line 2, column 17                | {"items":\n[{"article":103,,"count":1}]}
             no object            | 2 | must be an object                | [1]
             empty items          | 2 | items: must be an array          | {"items":[]}
-            misspelt key         | 2 | items[0].pieces: unknown         | {"items":[{"article":103,"pieces":1}]}
+            misspelt key         | 2 | line 1, column 35: items[0].pieces: unknown | {"items":[{"article":103,"pieces":1}]}
             unknown article      | 2 | items[1].article: the price list has no article 9 | {"items":[{"article":103,"count":1},{"article":9,"count":1}]}
             count 0              | 2 | items[0].count                   | {"items":[{"article":103,"count":0}]}
             absurd count         | 2 | items[0].count                   | {"items":[{"article":103,"count":100001}]}
             count beyond an int  | 2 | items[0].count                   | {"items":[{"article":103,"count":1e300}]}
-            count as text        | 2 | not "2"                          | {"items":[{"article":103,"count":"2"}]}
+            count as text        | 2 | line 1, column 34: items[0].count: must be a whole number from 1 to 100000, not "2" | {"items":[{"article":103,"count":"2"}]}
             pages of a print     | 2 | items[0].pages: belongs          | {"items":[{"article":103,"count":1,"pages":8}]}
             pages between steps  | 2 | items[0].pages: must be from 26 to 98 in steps of 8 | {"items":[{"article":9171,"count":1,"pages":30}]}
             too many add-ons     | 2 | items[0].maps: the cart comes to | {"items":[{"article":9171,"count":100000,"maps":100000}]}
@@ -209,9 +209,9 @@ private slots:
             payment of others    | 2 | payment: 15                      | {"payment":15,"items":[{"article":103,"count":1}]}
             unknown express      | 2 | express                          | {"express":"3","items":[{"article":103,"count":1}]}
             coupon is a device   | 2 | coupon: /dev/zero: there is no   | {"coupon":"/dev/zero","couponId":"A","items":[{"article":103,"count":1}]}
-            no coupon code       | 2 | couponId                         | {"coupon":"none.xml","items":[{"article":103,"count":1}]}
+            no coupon code       | 2 | line 1, column 1: couponId       | {"coupon":"none.xml","items":[{"article":103,"count":1}]}
             coupon beyond an int | 2 | amount of shipping group 1       | {"coupon":"dear.xml","couponId":"A","items":[{"article":103,"count":1}]}
-            coupon not XML       | 2 | coupon: FOLDER/cart.json, line 1, column | {"coupon":"cart.json","couponId":"A","items":[{"article":103,"count":1}]}
+            coupon not XML       | 2 | FOLDER/cart.json, line 1, column 1:     | {"coupon":"cart.json","couponId":"A","items":[{"article":103,"count":1}]}
             unknown template     | 2 | templates.ZZ: the price list has no | {"items":[{"article":9171,"count":1,"templates":{"ZZ":1}}]}
             beyond the limit     | 1 | 7 Wandbilder und Geschenke: 31 pieces, but 30 | {"items":[{"article":7001,"count":31}]}
             express without      | 1 | 9171 Fotobuch Classic A4: it can't be had by NET, POS as express 1 | {"source":"NET","delivery":"POS","express":"1","items":[{"article":9171,"count":1}]}
