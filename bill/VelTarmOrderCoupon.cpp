@@ -23,7 +23,7 @@ int VelTarmOrderCoupon::left() const
     if (!myCoupon.isValid() || myCoupon.type() != COUPON_TYPE_VALUE)
         return 0;
     const qint64 left = static_cast<qint64>(myTaken) - myCoupon.maximumDiscountValue();
-    return static_cast<int>(qBound<qint64>(0, left, std::numeric_limits<int>::max()));
+    return static_cast<int>(qBound(qint64(0), left, qint64(std::numeric_limits<int>::max())));
 }
 
 bool VelTarmOrderCoupon::canCount() const
