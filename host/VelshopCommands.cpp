@@ -29,11 +29,13 @@ const QVector<VelshopCommand>& VelshopCommands::all()
         {"list",
          "",
          {},
-         {STR_GROUP},
+         {STR_GROUP, STR_SOURCE, STR_DELIVERY},
          shared(),
          OPENS_ACCOUNT,
          "articles with id, name, shipping group, type, price of a piece, and whether they can be ordered",
-         "Prices are those of the shop's starting choice. The articles are sorted by shipping group, and within it "
+         "Whether an article can be ordered at all, and whether by the chosen order way, which is the shop's starting "
+         "choice where none is named; its price is the one of that way. The articles are sorted by shipping group, and "
+         "within it "
          "stand as in the price list.",
          "velshop list --group 23",
          readAndRun(readListArguments, listArticles)},

@@ -17,6 +17,7 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -32,22 +33,12 @@ QString typeOf(const VelProductAbstract* theProduct)
     return addOn ? QStringLiteral("add-on %1").arg(addOn->productClass()) : theProduct->orderTxtType();
 }
 
-/// The shop's starting choice.
-VelOrderSource chosenSource()
-{
-    return VelTarmGlobalStatus::instance()->orderSource();
-}
-
-bool isOrderableHere(VelProductAbstract* theProduct)
-{
-    return VelshopProblems::isOrderable(theProduct, chosenSource());
-}
-
 /// Of one piece.
-QString priceText(VelProductAbstract* theProduct)
+std::optional<int> priceOf(VelProductAbstract* theProduct, const VelOrderSource& theSource)
 {
-    const bool hasPrice = VelshopProblems::hasPrice(theProduct, 1, chosenSource());
-    return hasPrice ? VelshopWords::money(theProduct->price()) : QStringLiteral("-");
+    if (!VelshopProblems::hasPrice(theProduct, 1, theSource))
+        return std::nullopt;
+    return theProduct->price(VelTarmPriceKey(theSource, -1, DISCOUNT_MODEL_UNDEFINED), 1, 0);
 }
 
 QString answerText(bool theAnswer)
@@ -68,47 +59,48 @@ VelProductList articlesToList(const VelshopListArguments& theArguments)
     return articles;
 }
 
-QJsonObject toJson(VelProductAbstract* theProduct)
+QJsonObject toJson(VelProductAbstract* theProduct, const VelOrderSource& theSource)
 {
-    const bool hasPrice = VelshopProblems::hasPrice(theProduct, 1, chosenSource());
+    const std::optional<int> price = priceOf(theProduct, theSource);
     return {{QStringLiteral("id"), theProduct->articleID()},
             {QStringLiteral("name"), theProduct->name()},
             {QStringLiteral("editorName"), theProduct->editorName()},
             {QStringLiteral("group"), theProduct->shippingGroupId()},
             {QStringLiteral("groupName"), groupName(theProduct)},
             {QStringLiteral("type"), typeOf(theProduct)},
-            {QStringLiteral("price"), hasPrice ? QJsonValue(theProduct->price()) : QJsonValue()},
-            {QStringLiteral("orderSource"), VelshopWords::orderSourceData(chosenSource())},
+            {QStringLiteral("price"), price ? QJsonValue(*price) : QJsonValue()},
+            {QStringLiteral("orderSource"), VelshopWords::orderSourceData(theSource)},
             {QStringLiteral("orderable"), theProduct->isOrderable()},
-            {QStringLiteral("orderableHere"), isOrderableHere(theProduct)}};
+            {QStringLiteral("orderableHere"), VelshopProblems::isOrderable(theProduct, theSource)}};
 }
 
-QStringList toRow(VelProductAbstract* theProduct)
+QStringList toRow(VelProductAbstract* theProduct, const VelOrderSource& theSource)
 {
+    const std::optional<int> price = priceOf(theProduct, theSource);
     return {QString::number(theProduct->articleID()),
             theProduct->name(),
             QStringLiteral("%1 %2").arg(theProduct->shippingGroupId()).arg(groupName(theProduct)).trimmed(),
             typeOf(theProduct),
-            priceText(theProduct),
+            price ? VelshopWords::money(*price) : QStringLiteral("-"),
             answerText(theProduct->isOrderable()),
-            answerText(isOrderableHere(theProduct))};
+            answerText(VelshopProblems::isOrderable(theProduct, theSource))};
 }
 
-void printJson(const VelProductList& theArticles, QTextStream& theOutput)
+void printJson(const VelProductList& theArticles, const VelOrderSource& theSource, QTextStream& theOutput)
 {
     QJsonArray rows;
     for (VelProductAbstract* article : theArticles)
-        rows.append(toJson(article));
+        rows.append(toJson(article, theSource));
     theOutput << QJsonDocument(rows).toJson();
 }
 
-void printText(const VelProductList& theArticles, QTextStream& theOutput)
+void printText(const VelProductList& theArticles, const VelOrderSource& theSource, QTextStream& theOutput)
 {
     VelshopTable table({QStringLiteral("ID"), QStringLiteral("NAME"), QStringLiteral("GROUP"), QStringLiteral("TYPE"),
                         QStringLiteral("PRICE"), QStringLiteral("ORDERABLE"),
-                        QStringLiteral("BY ") + VelshopWords::orderSource(chosenSource())});
+                        QStringLiteral("BY ") + VelshopWords::orderSource(theSource)});
     for (VelProductAbstract* article : theArticles)
-        table.add(toRow(article));
+        table.add(toRow(article, theSource));
     table.print(theOutput);
 }
 
@@ -118,7 +110,8 @@ bool readListArguments(const VelshopCommandLine& theLine, VelshopListArguments& 
 {
     theArguments.myHasGroup = theLine.isSet(VelshopOptions::STR_GROUP);
     return theLine.readNumberOption(VelshopOptions::STR_GROUP, VelshopCommandLine::LOWEST_ID, theArguments.myGroup,
-                                    theError);
+                                    theError) &&
+           theArguments.mySource.read(theLine, theError);
 }
 
 int listArticles(const VelshopListArguments& theArguments, QTextStream& theOutput, VelshopError& theError)
@@ -128,9 +121,12 @@ int listArticles(const VelshopListArguments& theArguments, QTextStream& theOutpu
         theError = QStringLiteral("no article is in the shipping group %1").arg(theArguments.myGroup);
         return EXIT_BAD_INPUT;
     }
+    VelOrderSource source = VelTarmGlobalStatus::instance()->orderSource();
+    if (theArguments.mySource.isNamed() && !theArguments.mySource.complete(source, theError))
+        return EXIT_BAD_INPUT;
     if (theArguments.myIsJson)
-        printJson(articles, theOutput);
+        printJson(articles, source, theOutput);
     else
-        printText(articles, theOutput);
+        printText(articles, source, theOutput);
     return EXIT_DONE;
 }

@@ -45,6 +45,7 @@ private slots:
             composed book           | unit 9210 --pages 40 --videos 1 --template 12=3 | 40 pages: 20,12 €; 2 x page packages: 2,98 €; 1 x templates: 1,20 €; 1 x videos: 0,99 €
             in English              | bill shop/carts/small.json --language en | (Rechnung); Standard production and standard shipping
             list of a group         | list --group 31                  | 3101;  no
+            list of another source  | list --source CD                 | BY CD, MAIL; 1,99 €    yes        yes
         )");
     }
 
