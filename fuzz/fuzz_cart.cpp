@@ -4,7 +4,6 @@
 #include "host/VelshopBill.h"
 #include "host/VelshopCart.h"
 #include "host/VelshopExitCode.h"
-#include "host/VelshopMessages.h"
 
 #include <QFile>
 #include <QTextStream>
@@ -36,7 +35,6 @@ int askBills(const VelshopCart& theCart)
 
 int bill(const VelshopBillArguments& theArguments)
 {
-    VelshopMessages::drop();
     QString output;
     VelshopError error;
     QTextStream stream(&output);
@@ -50,7 +48,6 @@ int bill(const VelshopBillArguments& theArguments)
 extern "C" int LLVMFuzzerInitialize(int*, char***)
 {
     FuzzShop::open();
-    VelshopMessages::holdBack();
     copyCoupons();
     return 0;
 }
