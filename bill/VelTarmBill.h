@@ -74,9 +74,6 @@ public:
     /// Appends the list; the bill takes the positions over.
     void addOrderPositions(const VelTarmBillPositionList& thePositions);
 
-    /// Appends a line, of which a position is made when one is asked for.
-    void addLine(const VelTarmBillLine& theLine);
-
     /// What tells a running offer from one that is over, in milliseconds since the epoch: while the bill is made, one
     /// moment for all its lines, afterwards the clock.
     qint64 present();
@@ -164,6 +161,11 @@ public:
                           bool theWithDiscountType);
 
 private:
+    friend class VelTarmPriceInfo; // which prices into the bill
+
+    /// Appends a line, of which a position is made when one is asked for.
+    void addLine(const VelTarmBillLine& theLine);
+
     using Entries = std::vector<VelTarmBillEntry>;
 
     void init();

@@ -39,8 +39,9 @@ public:
     {
     }
 
-    /// The first child element, and the end behind the last one.
+    /// At the first child element of the tag.
     Iterator begin() const { return Iterator(myParent.firstChildElement(myTag), myTag); }
+    /// Behind the last one.
     Iterator end() const { return Iterator(QDomElement(), myTag); }
 
 private:

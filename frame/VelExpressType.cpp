@@ -1,7 +1,6 @@
 #include "frame/VelExpressType.h"
 
 #include "frame/EnumHelper.h"
-#include "frame/VelLookUpTable.h"
 
 #include <QObject>
 

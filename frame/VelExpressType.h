@@ -2,12 +2,10 @@
 #define VELEXPRESSTYPE_H
 
 #include "frame/VelEnumerations.h"
+#include "frame/VelLookUpTable.h"
 #include "frame/VelTarmExport.h"
 
 #include <QString>
-
-template <typename Key, typename Value>
-class VelLookUpTable;
 
 /// The speed class of production and shipping, with its name for people. A value.
 class VELTARM_EXPORT VelExpressType

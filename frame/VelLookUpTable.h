@@ -11,6 +11,7 @@ public:
     /// Adds the pair, or replaces the value of an existing key.
     void insert(Key theKey, const Value& theValue) { myMap.insert(theKey, theValue); }
 
+    /// What is answered for a value that no key has, and for a key that isn't there.
     void setDefaults(Key theKey, const Value& theValue)
     {
         myDefaultKey = theKey;

@@ -24,15 +24,20 @@ public:
     /// Reads the attributes `input_source` and `delivery_type`; a missing one is the wild value -1.
     explicit VelOrderSource(const QDomElement& theElement);
 
-    /// The order ways of a shop.
+    /// By the net, to the customer by mail.
     static VelOrderSource onlineMailOrder() { return {INPUT_SOURCE_NET, DELIVERY_TYPE_MAILORDER}; }
+    /// By the net, to be fetched at a point of sale.
     static VelOrderSource onlinePointOfSale() { return {INPUT_SOURCE_NET, DELIVERY_TYPE_POS}; }
+    /// At a kiosk, made on the spot.
     static VelOrderSource kioskOnSite() { return {INPUT_SOURCE_KIOSK, DELIVERY_TYPE_ON_SITE}; }
+    /// On a CD, to the customer by mail.
     static VelOrderSource cdMailOrder() { return {INPUT_SOURCE_CD, DELIVERY_TYPE_MAILORDER}; }
+    /// On a CD, to be fetched at a point of sale.
     static VelOrderSource cdPointOfSale() { return {INPUT_SOURCE_CD, DELIVERY_TYPE_POS}; }
 
-    /// The two halves.
+    /// By which way the order reaches the shop.
     VelInputSource inputSource() const { return myInputSource; }
+    /// By which way the goods come back.
     VelDeliveryType deliveryType() const { return myDeliveryType; }
 
     /// Whether this is exactly that order way; a wild half is none of them.

@@ -17,16 +17,22 @@ public:
 
     ~VelTarmGlobalStatus() override;
 
-    /// A copy of the status, and its parts as VelTarmStatus states them.
+    /// A copy of the status.
     VelTarmStatus status() const { return myStatus; }
+    /// The status's order source.
     VelOrderSource orderSource() const { return myStatus.orderSource(); }
+    /// The input source of orderSource().
     VelInputSource inputSource() const { return myStatus.inputSource(); }
+    /// The delivery type of orderSource().
     VelDeliveryType deliveryType() const { return myStatus.deliveryType(); }
+    /// The status's payment.
     VelPaymentType payment() const { return myStatus.payment(); }
+    /// A key of the order source alone, as VelTarmStatus::priceKey() makes it.
     VelTarmPriceKey priceKey() const { return myStatus.priceKey(); }
 
-    /// These emit nothing.
+    /// As VelTarmStatus::setPayment(); emits nothing.
     void setPayment(VelPaymentType thePayment) { myStatus.setPayment(thePayment); }
+    /// As VelTarmStatus::setReasonableStartingPayment(); emits nothing.
     void setReasonableStartingPayment() { myStatus.setReasonableStartingPayment(); }
 
     /// Chooses the start value: the given source if the key account enables it, else the first one available. Each of

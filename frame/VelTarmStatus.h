@@ -12,10 +12,13 @@ public:
     /// Net, mail order, PAYMENT_TYPE_3.
     VelTarmStatus() = default;
 
-    /// The state: the order source with its halves, and the payment.
+    /// The order source.
     VelOrderSource orderSource() const { return myOrderSource; }
+    /// The input source of orderSource().
     VelInputSource inputSource() const { return myOrderSource.inputSource(); }
+    /// The delivery type of orderSource().
     VelDeliveryType deliveryType() const { return myOrderSource.deliveryType(); }
+    /// The payment.
     VelPaymentType payment() const { return myPayment; }
 
     /// Nothing is tested: the order source need not permit the payment.
@@ -43,8 +46,9 @@ public:
     bool isKioskOnSite() const { return myOrderSource.isKioskOnSite(); }
     bool isCdMailOrder() const { return myOrderSource.isCDMailOrder(); }
 
-    /// By the input source, whatever the delivery type; by the delivery type, whatever the input source.
+    /// Whether the order comes by the net, whatever the delivery type.
     bool isNetOrder() const { return inputSource() == INPUT_SOURCE_NET; }
+    /// Whether the goods go by mail, whatever the input source.
     bool isMailOrder() const { return deliveryType() == DELIVERY_TYPE_MAILORDER; }
 
     /// A closed list of payments.

@@ -96,9 +96,6 @@ public:
     /// keeps its first value. A real element revives the product, a null one leaves it deprecated.
     void update(const QDomElement& theElement);
 
-    /// The product's own article, never null; its class is internal.
-    VelTarmArticle* tarmArticle() const { return myArticle; }
-
     /// Attribute `group`, -1 when missing.
     int shippingGroupId() const { return myShippingGroupId; }
 
@@ -198,6 +195,16 @@ public:
     /// The one product that stands for none: deprecated, without a class. Built on first use without a lock, never
     /// freed.
     static VelProductAbstract* nullProduct();
+
+    /// The product's own article, never null. Open to the library, and to its static form within the source tree: a
+    /// host doesn't have the article's header.
+#ifndef VELTARM_INTERNALS
+private:
+#endif
+    VelTarmArticle* tarmArticle() const
+    {
+        return myArticle;
+    }
 
 private:
     void updateOwnInformation(const QDomElement& theElement);

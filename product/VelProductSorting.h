@@ -20,6 +20,6 @@ VELTARM_EXPORT bool sortByNumber(const QString& theLeft, const QString& theRight
 VELTARM_EXPORT bool sortProductByNumber(VelProductAbstract* theLeft, VelProductAbstract* theRight);
 
 /// What quickSort with sortProductByNumber makes of the list, with each name read once.
-void sortProductsByNumber(VelProductList& theProducts);
+VELTARM_EXPORT void sortProductsByNumber(VelProductList& theProducts);
 
 #endif
