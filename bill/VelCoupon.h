@@ -42,16 +42,17 @@ public:
     /// may be among them.
     QList<int> validArticles() const { return myValidArticles; }
 
-    /// Attribute `price`: of a value coupon cents, of a percent coupon the percentage; negative to take off. 0 in the
-    /// other one.
+    /// Attribute `price` of a value coupon, in cents, negative to take off; 0 of any other coupon.
     int maximumDiscountValue() const { return myMaximumDiscountValue; }
+    /// Attribute `price` of a percent coupon, the percentage, negative to take off; 0 of any other coupon.
     int discountPercentage() const { return myDiscountPercentage; }
 
     /// Attribute `minimum_price`, cents that the valid articles must come to; a quantity coupon doesn't ask for it.
     int minimumSpentValue() const { return myMinimumSpentValue; }
 
-    /// Attributes `free_quantity` and `minimum_quantity`: the pieces given free, and those that must be bought.
+    /// Attribute `free_quantity`: the pieces given free.
     int freeQuantity() const { return myFreeQuantity; }
+    /// Attribute `minimum_quantity`: the pieces that must be bought.
     int minimumQuantity() const { return myMinimumQuantity; }
 
     /// Attribute `shareable`. It has no effect here.
@@ -64,10 +65,12 @@ public:
     /// Whether that reaches minimumSpentValue().
     bool spentEnoughMoney(const VelTarmBill& theBill) const;
 
-    /// What each type gives, before the bound of discountForOrder; the coupon's own type isn't looked at. The offset is
-    /// subtracted as it stands, in the coupon's sign; 0 leaves the whole value.
+    /// What a percent coupon gives, before the bound of discountForOrder; the coupon's own type isn't looked at.
     int percentDiscount(const VelTarmBill& theBill) const;
+    /// What a value coupon gives, before the bound of discountForOrder; the coupon's own type isn't looked at. The
+    /// offset is subtracted as it stands, in the coupon's sign; 0 leaves the whole value.
     int valueDiscount(const VelTarmBill& theBill, int theOffset) const;
+    /// What a quantity coupon gives, before the bound of discountForOrder; the coupon's own type isn't looked at.
     int quantityDiscount(const VelTarmBill& theBill) const;
 
     /// What VelTarmBill::totalFinalCost takes: the discount of the coupon's type, but never more off than

@@ -23,8 +23,9 @@ public:
         return myItems.value(theProduct, theDefaultValue);
     }
 
-    /// What the cart holds, in the order of the pointers.
+    /// What the cart holds, each product with its count, in the order of the pointers.
     QMap<VelProductAbstract*, int> items() const { return myItems; }
+    /// The products that the cart holds, in the order of the pointers.
     QList<VelProductAbstract*> products() const { return myItems.keys(); }
 
     /// Adds to the count; enters an absent product, also with a sum of 0 or below.

@@ -28,17 +28,24 @@ public:
     VelProductPriceCalculator& operator=(const VelProductPriceCalculator&) = default;
     virtual ~VelProductPriceCalculator() = default;
 
-    /// What the constructor was given; the product may be null.
+    /// The product as it was given; may be null.
     VelProductAbstract* product() const { return myProduct; }
+    /// The number of pages as it was given.
     int countPages() const { return myCountPages; }
+    /// The number of areas with a map as it was given.
     int countLocrAreas() const { return myCountLocrAreas; }
+    /// The number of areas with a video as it was given.
     int countVideoAreas() const { return myCountVideoAreas; }
 
-    /// These count from the next question on.
+    /// Another product, borrowed, may be null; counts from the next question on.
     void setMainProduct(VelProductAbstract* theProduct) { myProduct = theProduct; }
+    /// Another number of pages; counts from the next question on.
     void setCountPages(int theCountPages) { myCountPages = theCountPages; }
+    /// Another number of areas with a map; counts from the next question on.
     void setCountLocrAreas(int theCountLocrAreas) { myCountLocrAreas = theCountLocrAreas; }
+    /// Another number of areas with a video; counts from the next question on.
     void setCountVideoAreas(int theCountVideoAreas) { myCountVideoAreas = theCountVideoAreas; }
+    /// Other template uses by price class; they count from the next question on.
     void setAdditionalContent(const QMap<QString, int>& theContent) { myAdditionalContent = theContent; }
 
     /// The product must not be null.
@@ -50,38 +57,52 @@ public:
     /// Whole packages of pages beyond the minimum; 0 or below for none, 0 for a product that can't grow.
     int countPagePackages() const;
 
-    /// The charged template uses, all together and by price class: three in a class that begins with "1" count as one.
+    /// The charged template uses, all together: three in a class that begins with "1" count as one.
     int countAdditionalContents() const;
+    /// The charged template uses by price class: three in a class that begins with "1" count as one.
     QMap<QString, int> correctedAdditionalContent() const;
 
     /// The uses as they were given.
     QMap<QString, int> boughtAdditionalContent() const { return myAdditionalContent; }
 
-    /// The add-ons that the parts cost. One that the price list lacks is left out, with a warning but for page
-    /// packages.
+    /// The page packages that the pages cost; none, without a warning, when the price list lacks one.
     VelOrderStatistic boughtPagePackages() const;
+    /// The add-ons that the maps cost. One that the price list lacks is left out, with a warning.
     VelOrderStatistic boughtLocrAreas() const;
+    /// The add-ons that the videos cost. One that the price list lacks is left out, with a warning.
     VelOrderStatistic boughtVideoAreas() const;
+    /// The add-ons that the templates cost. One that the price list lacks is left out, with a warning.
     VelOrderStatistic boughtTemplates() const;
 
-    /// The parts in cents: one piece of the product, 0 without one, and all of what was bought of each add-on.
+    /// Cents for one piece of the product; 0 without one.
     int priceOfProduct(const VelTarmPriceKey& theKey) const;
+    /// As the form with a key, under the global status.
     int priceOfProduct() const;
+    /// Cents for all of boughtPagePackages().
     int priceOfPagePackages(const VelTarmPriceKey& theKey) const;
+    /// As the form with a key, under the global status.
     int priceOfPagePackages() const;
+    /// Cents for all of boughtLocrAreas().
     int priceOfLocrAreas(const VelTarmPriceKey& theKey) const;
+    /// As the form with a key, under the global status.
     int priceOfLocrAreas() const;
+    /// Cents for all of boughtVideoAreas().
     int priceOfVideoAreas(const VelTarmPriceKey& theKey) const;
+    /// As the form with a key, under the global status.
     int priceOfVideoAreas() const;
+    /// Cents for all of boughtTemplates().
     int priceOfContents(const VelTarmPriceKey& theKey) const;
+    /// As the form with a key, under the global status.
     int priceOfContents() const;
 
-    /// All parts together: the price of one finished piece.
+    /// All parts together: the price of one finished piece, in cents.
     int unitPrice(const VelTarmPriceKey& theKey) const;
+    /// As the form with a key, under the global status.
     int unitPrice() const;
 
     /// Whether the product and each of its add-ons has a price under the key. A missing add-on is no obstacle.
     bool isOrderable(const VelTarmPriceKey& theKey) const;
+    /// As the form with a key, under the global status.
     bool isOrderable() const;
 
 private:

@@ -59,13 +59,16 @@ public:
     /// The id that the constructor was given.
     int shippingGroup() const { return myShippingGroup; }
 
-    /// The shipping of the group, null when it has none. The ids are -1 and 0 for none.
+    /// The fee product of the group's shipping, borrowed from the registry; null when it has none.
     VelProductAbstract* transferProduct() const;
+    /// The article id of transferProduct(), -1 for none.
     int idOfTransferProduct() const;
+    /// The article id of the fee product of the bill's payment, 0 for none.
     int idOfPaymentAgioProduct() const;
 
-    /// A copy of the list, and one sorted by product name with numbers by value; the positions stay the bill's.
+    /// A copy of the list, in the order of the bill; the positions stay the bill's.
     VelTarmBillPositionList orderPositions() const;
+    /// The positions of orderPositions() sorted by product name, with numbers by value; they stay the bill's.
     VelTarmBillPositionList sortedBillPositions() const;
 
     /// The first position of the product; null when there is none or when that one is invalid.
@@ -85,8 +88,9 @@ public:
     /// Whether every product has a price under the bill's status.
     bool isValid() const;
 
-    /// The sum of the positions whose product's group matches; add-ons cost, but don't count.
+    /// Cents of the positions whose product's group matches, add-ons included.
     int totalItemCost(const VelProductGroup& theGroup) const;
+    /// Pieces of the positions whose product's group matches; add-ons don't count.
     int totalItemCount(const VelProductGroup& theGroup) const;
 
     /// The lowest unit price of all positions, 0 when there is none.
@@ -99,17 +103,19 @@ public:
     /// for null; the sums that it is reckoned from are always this bill's.
     int priceOfTransfer(VelTarmBill* theBill) const;
 
-    /// The pure prices without positions, 0 in a state without transfer. Under transfer model 2 the first is the base
-    /// charge alone and the second the charge for further items.
+    /// The charge of the transfer article without positions, 0 in a state without transfer. Under transfer model 2 it
+    /// is the base charge alone.
     int priceOfTransfer() const;
+    /// The charge for further items under transfer model 2, 0 in a state without transfer.
     int priceOfUnitTransfer() const;
 
     /// The fee of the express type for all books, calendars, cards and gifts of the bill, 0 without one. Its position
     /// goes to the given bill, to none for null. It is always paid in full.
     int priceOfExpressAgio(VelTarmBill* theBill) const;
 
-    /// The fee of a payment; a payment without a price costs nothing.
+    /// The fee of a payment under the key; a payment without a price costs nothing.
     static int priceOfPaymentAgio(VelPaymentType thePayment, const VelTarmPriceKey& theKey);
+    /// The fee of a payment under the bill's status; a payment without a price costs nothing.
     int priceOfPaymentAgio(VelPaymentType thePayment) const;
 
     /// The fee of the bill's own payment; a bill that comes to nothing is charged none.
@@ -135,8 +141,9 @@ public:
     /// Writes every position to the log.
     void dump() const;
 
-    // ---- the description of discounts: initDiscountInfoForXTCI() once, then for each product, as long as pieces are
-    // left, itemsAvailableInCurrentDiscountLevel() and describeDiscount() of so many or fewer
+    // ---- the description of discounts
+    // Discounts are described by initDiscountInfoForXTCI() once, and then for each product, as long as pieces are left,
+    // by itemsAvailableInCurrentDiscountLevel() and describeDiscount() of so many or fewer.
 
     /// Adds the positions of transfer and express fee to the bill and unfolds all positions into pieces.
     void initDiscountInfoForXTCI();

@@ -40,8 +40,9 @@ public:
     /// Whether a unit is a package of several pieces.
     virtual bool isPackage() const = 0;
 
-    /// The model and the level behind the price.
+    /// The discount model behind the price.
     virtual VelDiscountModel discountModel() const = 0;
+    /// The discount level behind the price, 0 for the base price.
     virtual int discountLevel() const = 0;
 
     /// Unit price times unit count.

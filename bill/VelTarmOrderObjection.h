@@ -36,12 +36,12 @@ struct VelTarmOrderObjection
     /// In place of a group: the objection is to the whole order.
     static constexpr int NO_GROUP = std::numeric_limits<int>::min();
 
-    Kind myKind;
+    Kind myKind;                                   ///< what it is
     int myGroup = NO_GROUP;                        ///< id of the shipping group, of the bill
     const VelProductAbstract* myProduct = nullptr; ///< the registry's; of a fee its product; null where none is named
-    Fee myFee = FEE_NONE;
-    qint64 myNumber = 0;
-    qint64 myLimit = 0;
+    Fee myFee = FEE_NONE;                          ///< of a missing price: of which charge
+    qint64 myNumber = 0;                           ///< as the kind says it; 0 for a kind without a number
+    qint64 myLimit = 0;                            ///< the most that OBJECTION_LIMIT allows; 0 for all others
 };
 
 #endif

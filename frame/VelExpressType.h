@@ -41,7 +41,8 @@ public:
     /// The translated name. The express classes 2 and 3 have none of their own and answer "Undefiniert".
     QString humanReadableName() const;
 
-    /// The type of that name; unknown when no type has it.
+    /// The type of that name, in the language of the names or in German; unknown when no type has it. Letters beyond
+    /// ASCII don't survive the comparison: a name that holds one is never found, and its type is unknown.
     static VelExpressType createFromHumanReadable(const QString& theText);
 
 private:

@@ -20,16 +20,22 @@ public:
     /// All amounts -1, no dates.
     void clear();
 
-    /// The amounts as they were read or set, valid or not.
+    /// The sales tax as it was read or set, valid or not.
     int salesTaxValue() const { return mySalesTax; }
+    /// The bill's sum as it was read or set, valid or not.
     int billSumValue() const { return myBillSum; }
+    /// The provincial sales tax as it was read or set, valid or not.
     int provincialSalesTax() const { return myProvincialSalesTax; }
+    /// Replaces the sales tax; nothing is tested.
     void setSalesTaxValue(int theValue) { mySalesTax = theValue; }
+    /// Replaces the bill's sum; nothing is tested.
     void setBillSumValue(int theValue) { myBillSum = theValue; }
+    /// Replaces the provincial sales tax; nothing is tested.
     void setProvincialSalesTaxValue(int theValue) { myProvincialSalesTax = theValue; }
 
-    /// The two rules differ on purpose: a negative sales tax is invalid, of the provincial one only -1 is.
+    /// Whether the sales tax is 0 or more. Differs from provincialSalesTaxIsValid() on purpose.
     bool salesTaxIsValid() const { return mySalesTax >= 0; }
+    /// Whether the provincial sales tax isn't -1. Differs from salesTaxIsValid() on purpose.
     bool provincialSalesTaxIsValid() const { return myProvincialSalesTax != -1; }
 
     /// An invalid date for an express type that has none.

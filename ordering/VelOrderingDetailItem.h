@@ -27,8 +27,9 @@ public:
     /// `brand`, null when missing: a second identification beside the name.
     QString brand() const { return myBrand; }
 
-    /// The file name of the icon; empty when the name has none. Set by VelOrderingDetails.
+    /// The file name of the icon; empty when the name has none.
     QString iconFilename() const { return myIconFilename; }
+    /// For VelOrderingDetails, which knows the icons: replaces the file name.
     void setIconFilename(const QString& theIconFilename) { myIconFilename = theIconFilename; }
 
     /// `blockable`, default false.

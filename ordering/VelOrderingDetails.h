@@ -37,10 +37,11 @@ public:
     /// How the last load went. It stands when changed() is emitted.
     VelTarmLoadResult lastLoad() const { return myLastLoad; }
 
-    /// The texts of `doi`, `address_check` and `sales_tax`, default false; acting on them is the application's
-    /// business.
+    /// The text of `doi`, default false; acting on it is the application's business.
     bool requiresDOI() const { return myRequiresDOI; }
+    /// The text of `address_check`, default false; acting on it is the application's business.
     bool requiresAddressCheck() const { return myRequiresAddressCheck; }
+    /// The text of `sales_tax`, default false; acting on it is the application's business.
     bool requiresSalesTaxCheck() const { return myRequiresSalesTaxCheck; }
 
     /// ISO code of the primary currency; "EUR" when no document named one.
@@ -59,9 +60,9 @@ public:
     /// A copy of the record.
     VelClientStrategyException clientStrategyException() const { return myClientStrategyException; }
 
-    /// Order ways of the document, their number and all of them, those without a payment too, and ordered by
-    /// VelOrderSource::operator<.
+    /// How many order ways the document has, those without a payment too.
     int numberOfOrderWays() const { return myOrderSources.size(); }
+    /// The order ways of the document, those without a payment too, ordered by VelOrderSource::operator<.
     QList<VelOrderSource> availableOrderSources() const { return myOrderSources.keys(); }
 
     /// Some order way of the document, with or without a payment, delivers to the point of sale.
@@ -70,9 +71,10 @@ public:
     /// The document lists an export of exactly that type; a client that connects by T_ONLINE_SAM has TOI in any case.
     bool supportsImageExport(VelImageExportTypeEnum theType) const;
 
-    /// Wordings of a bill position for a single piece, with the placeholder %1, and for a package, with %1 and %2. For
-    /// a model without a wording the first is empty and the second the general one.
+    /// The wording of a bill position for a single piece, with the placeholder %1; empty for a model without a wording.
     QString billPositionDescriptionEach(VelDiscountModel theModel) const;
+    /// The wording of a bill position for a package, with the placeholders %1 and %2; the general one for a model
+    /// without a wording.
     QString billPositionDescriptionPackage(VelDiscountModel theModel) const;
 
     /// The newest `last_change` of the enabled shipping groups; null when there is none.
@@ -85,15 +87,23 @@ public:
     /// enabled by products of shipping group 23, whatever the document lists.
     bool orderSourceEnabled(const VelOrderSource& theSource) const;
 
-    /// orderSourceEnabled() for one order way, and for several of them.
+    /// orderSourceEnabled() for the net and a point of sale.
     bool canOnlinePointOfSale() const { return orderSourceEnabled(VelOrderSource::onlinePointOfSale()); }
+    /// orderSourceEnabled() for the net and mail order.
     bool canOnlineMailOrder() const { return orderSourceEnabled(VelOrderSource::onlineMailOrder()); }
+    /// orderSourceEnabled() for the CD and a point of sale.
     bool canCdPointOfSale() const { return orderSourceEnabled(VelOrderSource::cdPointOfSale()); }
+    /// orderSourceEnabled() for the CD and mail order.
     bool canCdMailOrder() const { return orderSourceEnabled(VelOrderSource::cdMailOrder()); }
+    /// orderSourceEnabled() for the kiosk and on site.
     bool canKioskOnSite() const { return orderSourceEnabled(VelOrderSource::kioskOnSite()); }
+    /// Whether an order by the net is enabled, to whichever place.
     bool canAnyOnlineOrder() const { return canOnlineMailOrder() || canOnlinePointOfSale(); }
+    /// Whether an order to a point of sale is enabled, by net or CD.
     bool canPointOfSale() const { return canOnlinePointOfSale() || canCdPointOfSale(); }
+    /// Whether a mail order is enabled, by net or CD.
     bool canMailOrder() const { return canOnlineMailOrder() || canCdMailOrder(); }
+    /// Whether of net, CD, point of sale and mail order nothing but the CD to a point of sale is enabled.
     bool canOnlyCdPointOfSale() const { return canCdPointOfSale() && !canOnlinePointOfSale() && !canMailOrder(); }
 
     /// The three classes in ascending order.
@@ -112,14 +122,16 @@ public:
     /// The payments of an order way in document order; empty for an unknown one.
     QList<VelPaymentType> availablePayments(const VelOrderSource& theSource) const;
 
-    /// The payment that a new order starts with: the preferred one, if it is given and the order way has it, otherwise
-    /// the order way's first; PAYMENT_TYPE_UNKNOWN when it has none.
+    /// The payment that a new order starts with: the order way's first; PAYMENT_TYPE_UNKNOWN when it has none.
     VelPaymentType reasonableStartingPayment(const VelOrderSource& theSource) const;
+    /// The preferred payment if it is given and the order way has it; otherwise the order way's first,
+    /// PAYMENT_TYPE_UNKNOWN when it has none.
     VelPaymentType reasonableStartingPayment(const VelOrderSource& theSource, VelPaymentType thePreferred) const;
 
     /// What the customer chooses from: the items of `pay_methods`, with all cards in place of the id 1 and all transfer
-    /// methods in place of the id 9; the second form has only those whose payment type the order way takes.
+    /// methods in place of the id 9.
     QList<VelOrderingDetailItem*> orderingDetails() const;
+    /// The items of orderingDetails() whose payment type the order way takes.
     QList<VelOrderingDetailItem*> orderingDetails(const VelOrderSource& theSource) const;
 
     /// The name of the first of orderingDetails(theSource) with that type and brand, case-sensitive; null when there is
@@ -145,7 +157,8 @@ public:
     /// The `permitted_pay_method` children of an order way, unchecked; what is no number counts as 0.
     QList<VelPaymentType> parseAvailablePayments(const QDomElement& theElement);
 
-    /// These read one section each; a null element counts as a missing section.
+    // ---- reading of one section each
+    // A null element counts as a missing section.
 
     /// `order_sources`: replaces the order ways. One without any child node takes the payments that its delivery type
     /// suggests, so the items of `pay_methods` must have been read.

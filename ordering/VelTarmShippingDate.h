@@ -17,8 +17,9 @@ public:
     /// valid, and for an element of another tag.
     explicit VelTarmShippingDate(const QDomElement& theElement);
 
-    /// The two days; null unless both are known.
+    /// The first day; null unless both are known.
     QDate minDate() const { return myMinDate; }
+    /// The last day; null unless both are known.
     QDate maxDate() const { return myMaxDate; }
 
     /// Whether both days are valid.

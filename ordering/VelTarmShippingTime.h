@@ -16,12 +16,14 @@ public:
     /// Reads `days` ("3" or "3-5"), `delivery_type` and `express`; the tag is not looked at.
     explicit VelTarmShippingTime(const QDomElement& theElement);
 
-    /// -1 when the document says no number. The document may give the higher number first.
+    /// The first number of days; -1 when the document says no number. The document may give the higher one first.
     int minDays() const { return myMinDays; }
+    /// The last number of days, the first where there is only one; -1 when the document says no number.
     int maxDays() const { return myMaxDays; }
 
-    /// What the days hold for; the unknown value without one.
+    /// The delivery that the days hold for; the unknown value without one.
     VelDeliveryType deliveryType() const { return myDeliveryType; }
+    /// The express type that the days hold for; the unknown value without one.
     VelExpressType expressType() const { return myExpressType; }
 
     /// Whether both types are known; the days play no part.

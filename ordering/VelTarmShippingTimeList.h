@@ -28,7 +28,7 @@ public:
     /// The first entry of both types, an invalid one when there is none.
     VelTarmShippingTime shippingTime(VelDeliveryType theDeliveryType, const VelExpressType& theExpressType) const;
 
-    /// Whether there is such an entry.
+    /// Whether there is an entry of both types.
     bool isExpressable(VelDeliveryType theDeliveryType, const VelExpressType& theExpressType) const;
 
 private:

@@ -48,6 +48,7 @@ public:
 
     /// The largest number at which the entry holds; -1 for no limit.
     int upperLimit() const { return myUpperLimit; }
+    /// Replaces the upper limit; -1 for no limit.
     void setUpperLimit(int theUpperLimit) { myUpperLimit = theUpperLimit; }
 
     /// The discount level, 0 for the base price.

@@ -23,8 +23,9 @@ struct VelTarmPriceAnswer
     int myChargeCount;               ///< how many of the charges hold; an answer without a price may have one, too
     VelTarmPriceCharge myCharges[2]; ///< a package, and what goes beyond it
 
-    /// The charges that hold, for a range-based for.
+    /// The first charge that holds, for a range-based for.
     const VelTarmPriceCharge* begin() const { return myCharges; }
+    /// Behind the last charge that holds.
     const VelTarmPriceCharge* end() const { return myCharges + myChargeCount; }
 };
 

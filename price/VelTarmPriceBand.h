@@ -25,9 +25,11 @@ public:
     const VelTarmPriceValue& value() const { return myValue; }
     VelTarmPriceValue& value() { return myValue; }
 
-    /// The parts of the value that say where the band stands, and its amount in cents.
+    /// The discount model of the value.
     VelDiscountModel discountModel() const { return myValue.discountModel(); }
+    /// The discount level of the value, 0 for the base price.
     int discountLevel() const { return myValue.discountLevel(); }
+    /// The amount of the value in cents; -1 for no price.
     int price() const { return myValue.price(); }
 
     /// Which child element of `base_prices`, and going on behind its last one of `discount_prices`, the band was read
@@ -59,12 +61,14 @@ public:
     {
     }
 
-    /// What a range-based for needs.
+    /// The first band.
     const VelTarmPriceBand* begin() const { return myBegin; }
+    /// Behind the last band.
     const VelTarmPriceBand* end() const { return myEnd; }
 
-    /// How many there are.
+    /// Whether there is none.
     bool isEmpty() const { return myBegin == myEnd; }
+    /// How many there are.
     int size() const { return static_cast<int>(myEnd - myBegin); }
 
 private:

@@ -47,11 +47,15 @@ public:
         myImpl->myHashValue = 0;
     }
 
-    /// The parts, and the two halves of the order source.
+    /// The order source.
     VelOrderSource orderSource() const { return myImpl->myOrderSource; }
+    /// The input source of orderSource().
     VelInputSource inputSource() const { return myImpl->myOrderSource.inputSource(); }
+    /// The delivery type of orderSource().
     VelDeliveryType deliveryType() const { return myImpl->myOrderSource.deliveryType(); }
+    /// The discount level: 0 for the base price, -1 for any in a pattern.
     int discountLevel() const { return myImpl->myDiscountLevel; }
+    /// The discount model: DISCOUNT_MODEL_UNDEFINED for any in a pattern.
     VelDiscountModel discountModel() const { return myImpl->myDiscountModel; }
 
     /// input source x 1000000 + delivery type x 10000 + level x 100 + model, wrapping; 1 in place of 0. Different

@@ -48,12 +48,17 @@ public:
     /// settled while reading: a process that changes its time zone has to load again.
     int shownNonOfferPrice(qint64 thePresent) const { return thePresent < myEndOfOffer ? myNonOfferPrice : -1; }
 
-    /// When the price holds, and the parts of that as VelDiscountLimit states them.
+    /// When the price holds.
     VelDiscountLimit discountLimit() const { return myDiscountLimit; }
+    /// VelDiscountLimit::discountModel() of discountLimit().
     VelDiscountModel discountModel() const { return myDiscountLimit.discountModel(); }
+    /// VelDiscountLimit::lowerLimit() of discountLimit().
     int lowerLimit() const { return myDiscountLimit.lowerLimit(); }
+    /// VelDiscountLimit::upperLimit() of discountLimit().
     int upperLimit() const { return myDiscountLimit.upperLimit(); }
+    /// VelDiscountLimit::level() of discountLimit().
     int discountLevel() const { return myDiscountLimit.level(); }
+    /// VelDiscountLimit::isPackage() of discountLimit().
     bool isPackagePrice() const { return myDiscountLimit.isPackage(); }
 
     /// Closes the band; -1 leaves it open.

@@ -20,9 +20,11 @@ public:
     /// The first product with the highest base charge, null in an empty order. Borrowed.
     const VelProductAbstract* leader() const { return myLeader; }
 
-    /// The base charge, never below 0; the charge of all other pieces; and the two together.
+    /// The base charge in cents, never below 0.
     int base() const { return myBase; }
+    /// The charge of all other pieces in cents.
     int units() const { return myUnits; }
+    /// base() and units() together, in cents.
     int total() const;
 
 private:

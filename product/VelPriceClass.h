@@ -12,8 +12,9 @@ public:
     /// Holds the text as it stands.
     explicit VelPriceClass(const QString& thePriceClass) { setPriceClass(thePriceClass); }
 
-    /// Replaces the text, and gives it back.
+    /// Replaces the text.
     void setPriceClass(const QString& thePriceClass) { myPriceClass = thePriceClass; }
+    /// The text as it stands.
     QString toString() const { return myPriceClass; }
 
     /// By the text, exactly.

@@ -110,11 +110,14 @@ public:
 
     /// Whether the product is missing from the price list last read.
     bool isDeprecated() const { return myIsDeprecated; }
+    /// For the registry: marks the product as missing, or as found again.
     void setDeprecated(bool theIsDeprecated) { myIsDeprecated = theIsDeprecated; }
 
-    /// Whether the product's class and the mask share a bit; and the same for two masks.
+    /// Whether the product's class and the mask share a bit.
     bool isProductClass(VelProductClass theMask) const { return (myProductClass & theMask) != 0; }
+    /// Whether the product's class and the mask share a bit.
     bool isPrintFunProduct() const { return isProductClass(PRODUCT_CLASS_PRINT_FUN_MASK); }
+    /// Whether the product's class and the mask share a bit.
     bool isKindOfBook() const { return isProductClass(PRODUCT_CLASS_FOTO_BOOK); }
 
     /// Whether the group is one of the photo and poster groups.
@@ -135,17 +138,24 @@ public:
     /// Whether the product is current and the key account sells its shipping group.
     bool isOrderable() const;
 
-    /// The order text: its head line with the brackets, and the value of a key such as STR_TYPE; empty for none.
+    /// The head line of the order text with its brackets; empty for none.
     QString orderTxtHead() const;
+    /// The value of a key of the order text, such as STR_TYPE; empty for none.
     QString orderTxtValue(const QString& theKey) const;
+    /// The value of STR_TYPE, the order-text type; empty for none.
     QString orderTxtType() const { return orderTxtValue(STR_TYPE); }
+    /// The value of STR_SCALE; empty for none.
     QString orderTxtScale() const { return orderTxtValue(STR_SCALE); }
+    /// The value of STR_SALESLINE; empty for none.
     QString orderTxtSalesline() const { return orderTxtValue(STR_SALESLINE); }
 
-    /// By the order-text head, exactly and case-sensitively.
+    /// Whether the order-text head is STR_DESIGN, exactly and case-sensitively.
     bool isDesign() const { return orderTxtHead() == STR_DESIGN; }
+    /// Whether the order-text head is STR_FRAME, exactly and case-sensitively.
     bool isFrame() const { return orderTxtHead() == STR_FRAME; }
+    /// Whether the order-text head is STR_WALL_HOLDER, exactly and case-sensitively.
     bool isWallHolder() const { return orderTxtHead() == STR_WALL_HOLDER; }
+    /// Whether the order-text head is STR_PAGE_PACKAGE, exactly and case-sensitively.
     bool isPagePackage() const { return orderTxtHead() == STR_PAGE_PACKAGE; }
 
     /// Whether the order-text value "BORDER" is "1".
@@ -161,32 +171,38 @@ public:
     int priceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum, VelTarmBill* theBill,
                  const VelOrderStatistic* theStatistic) const;
 
-    /// Of a transfer product: shipping without a bill. Under TRANSFER_MODEL_2 the first is the base charge alone and
-    /// the second the charge for further items.
+    /// Of a transfer product: shipping without a bill. Under TRANSFER_MODEL_2 it is the base charge alone.
     int transferPriceFor(const VelTarmPriceKey& theKey, int theCount, int theBillingSum,
                          const VelOrderStatistic* theStatistic) const;
+    /// Of a transfer product: the charge for further items under TRANSFER_MODEL_2.
     int unitTransferPriceFor(const VelTarmPriceKey& theKey, const VelOrderStatistic* theStatistic) const;
 
-    /// The bands that the pattern covers, and the price of one band. A base limit stays only while it is the last limit
-    /// of its model.
+    /// The bands that the pattern covers. A base limit stays only while it is the last limit of its model.
     QSet<VelDiscountLimit> discountLimits(const VelTarmPriceKey& theKey) const;
+    /// Cents for one piece, or for one package, in the band that a limit describes; -1 when there is no such band. The
+    /// limit has to come from this product's own discountLimits(): to one of another product, or of a whole shipping
+    /// group, another band may answer, which shares no more than its level or its lower limit.
     int priceAtBound(const VelTarmPriceKey& theKey, const VelDiscountLimit& theLimit) const;
 
-    /// How the shipping computes, as its entries say it, and the charges `transfer_base_price` and
-    /// `transfer_unit_price` of the product's base entry, 0 without one.
+    /// Of a transfer product: how the shipping computes, as its entries say it; TRANSFER_MODEL_UNDEFINED for all
+    /// others.
     VelTransferModel transferModel() const;
+    /// Cents of `transfer_base_price` of the product's base entry, 0 without one.
     int baseTransferPrice(const VelTarmPriceKey& theKey) const;
+    /// Cents of `transfer_unit_price` of the product's base entry, 0 without one.
     int unitTransferPrice(const VelTarmPriceKey& theKey) const;
 
-    /// Of the base entry: the old price of one piece, -1 for none, and when its offer ends. Whether the offer still
-    /// runs isn't looked at.
+    /// The old price of one piece, from the base entry, in cents; -1 for none. Whether the offer still runs isn't
+    /// looked at.
     int nonOfferPrice(const VelTarmPriceKey& theKey) const;
+    /// When the offer of the base entry ends; the Unix epoch without one.
     QDateTime endOfferDate(const VelTarmPriceKey& theKey) const;
 
-    /// The days of production and shipping; without an entry of both types the time is invalid and the type can't be
-    /// had.
+    /// Whether the product has any valid shipping time.
     bool shippingTimesEnabled() const;
+    /// The days of production and shipping; invalid without an entry of both types.
     VelTarmShippingTime shippingTime(VelDeliveryType theDeliveryType, VelExpressType theExpressType) const;
+    /// Whether there is an entry of both types, so that the product can be had that way.
     bool isExpressable(VelDeliveryType theDeliveryType, VelExpressType theExpressType) const;
 
     /// Rates an image of so many pixels per millimetre: -1 not rated (0 or below), 0 red, 1 yellow, 2 green.

@@ -41,8 +41,9 @@ public:
     /// Whether the product class is "10" or "20".
     bool isFreeTheme() const;
 
-    /// The product class of the map add-on, and that of the video add-on.
+    /// The product class of the map add-on.
     static QString locrMapName();
+    /// The product class of the video add-on.
     static QString videoName();
 
 private:

@@ -17,9 +17,11 @@ public:
     /// From the order-text line TYPE=; unknown when the table of types doesn't hold it.
     VelProductType productType() const { return myProductType; }
 
-    /// Attributes `min_pages`, `max_pages` and `page_step`, 0 when missing; kept as they stand, without any check.
+    /// Attribute `min_pages`, 0 when missing; kept as it stands, without any check.
     int minPages() const { return myMinPages; }
+    /// Attribute `max_pages`, 0 when missing; kept as it stands, without any check.
     int maxPages() const { return myMaxPages; }
+    /// Attribute `page_step`, 0 when missing; kept as it stands, without any check.
     int pageIncrement() const { return myPageIncrement; }
 
 private:

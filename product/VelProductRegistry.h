@@ -50,8 +50,8 @@ public:
     /// Every main product and add-on ever read, in order of first appearance.
     QList<VelProductAbstract*> productList() const { return myProductList; }
 
-    // ---- one product; null when there is none. Deprecated products are found like all others, and "first" means
-    // first in productList().
+    // ---- one product
+    // Null when there is none. Deprecated products are found like all others, and "first" means first in productList().
 
     /// The first product with that article ID.
     VelProductAbstract* productWithArticleID(int theArticleID) const;
@@ -74,9 +74,9 @@ public:
     /// The first product of that order-text type. Once found it is answered for ever, deprecated or not.
     VelProductAbstract* findProductWithOrderTXTType(const QString& theType) const;
 
-    /// The first product of the group with that order-text head, and if given that BORDER= value; null for an empty
-    /// head.
+    /// The first product of the group with that order-text head; null for an empty head.
     VelProductAbstract* findProductWithOrderTXTHead(const QString& theHead, const VelProductGroup& theGroup) const;
+    /// The first product of the group with that order-text head and BORDER= value; null for an empty head.
     VelProductAbstract* findProductWithOrderTXTHead(const QString& theHead, const VelProductGroup& theGroup,
                                                     const QString& theBorder) const;
 
@@ -87,12 +87,16 @@ public:
     /// which add-ons and deprecated products count as well.
     VelProductAbstract* mostEquivalentProduct(VelProductAbstract* theProduct, const VelProductGroup& theGroup) const;
 
-    // ---- the add-ons of a main product, which is given by its article ID
+    // ---- the add-ons of a main product
+    // Deprecated add-ons are found like all others, and "first" means first in productList().
 
-    /// The first add-on that fits the article, or the type's product, and has that product class.
+    /// The first add-on that fits the article and has that product class; null for none.
     VelProductAddOn* supplement(int theArticleID, const QString& theProductClass) const;
+    /// As supplement().
     VelProductAddOn* findContent(int theArticleID, const QString& theProductClass) const;
+    /// As supplement(), for the product that findProduct() gives for the type; null also without one.
     VelProductAddOn* findContent(const VelProductType& theType, const QString& theProductClass) const;
+    /// Whether supplement() finds an add-on.
     bool productHasSupplement(int theArticleID, const QString& theProductClass) const;
 
     /// All add-ons that fit the article.
@@ -101,24 +105,28 @@ public:
     /// Of the possible add-ons those that the customer may pick himself.
     QList<VelProductAddOn*> possibleSupplements(int theArticleID) const;
 
-    /// The frames among them, and the first page package.
+    /// All frames among the possible add-ons.
     QList<VelProductAddOn*> findPossibleFrames(int theArticleID) const;
+    /// The first page package among the possible add-ons; null for none.
     VelProductAddOn* findPagePackage(int theArticleID) const;
 
-    /// The video add-on of the type's book, whether there is one, and its price as text in the primary currency (null
-    /// without one).
+    /// The video add-on of the type's book, see findFotoBook(); null for none.
     VelProductAddOn* qrCodeSupplement(const VelProductType& theType) const;
+    /// Whether qrCodeSupplement() finds one.
     bool qrCodeAllowed(const VelProductType& theType) const;
+    /// The price of qrCodeSupplement() as text in the primary currency; null without one.
     QString qrCodePriceText(const VelProductType& theType) const;
 
     // ---- lists and sets
+    // Deprecated products are among them.
 
     /// The print-fun products whose first reading gave that type. Never null; the list stays the registry's, and is the
     /// same object at each call.
     VelProductList* productsOfType(const VelProductType& theType) const;
 
-    /// The books, of all types or of one.
+    /// All books.
     QList<VelProductPrintFun*> fotoBooks() const;
+    /// The books among productsOfType().
     QList<VelProductPrintFun*> fotoBooks(const VelProductType& theType) const;
 
     /// All products of that order-text type.
@@ -139,6 +147,7 @@ public:
     QSet<VelDiscountLimit> discountLimits(int theShippingGroupId, const VelTarmPriceKey& theKey) const;
 
     // ---- tests
+    // Deprecated products count like all others.
 
     /// Whether the text is an order-text type or a product type of the list; unlike product(), heads don't count.
     bool productExists(const QString& theText) const;
@@ -155,20 +164,31 @@ public:
     /// Whether a product of the shipping group, or an add-on, has a band of the model under the key.
     bool containsDiscountModel(int theShippingGroupId, const VelTarmPriceKey& theKey, VelDiscountModel theModel) const;
 
+    // ---- groups
+
     /// VelProductGroup::matches.
     bool groupsMatch(const VelProductGroup& theLeft, const VelProductGroup& theRight) const;
 
     // ---- fees
+    // Fee products are the last load's, and stay alive when a further one replaces them; they aren't in productList().
 
-    /// The fee products. Null, -1 for a transfer product's id and 0 for a payment fee's stand for none.
+    /// The shipping of a group; null when it has none.
     VelProductAbstract* transferProduct(int theShippingGroupId) const;
+    /// The shipping of that article ID; null when there is none.
     VelProductAbstract* transferProductWithArticleId(int theArticleID) const;
+    /// The article ID of the group's shipping, -1 when it has none.
     int idOfTransferProduct(int theShippingGroupId) const;
+    /// The fee of a payment; null when it has none.
     VelProductAbstract* paymentAgioProduct(VelPaymentType thePayment) const;
+    /// The article ID of the payment's fee, 0 when it has none.
     int idOfPaymentAgioProduct(VelPaymentType thePayment) const;
+    /// The express fees of a group; empty when it has none.
     QList<VelProductAbstract*> expressAgioProducts(int theShippingGroupId) const;
+    /// The group's fee of that express type; null when it has none.
     VelProductAbstract* expressAgioProduct(int theShippingGroupId, const VelExpressType& theExpressType) const;
+    /// The express types of the group whose fee costs more than 0 under the key.
     QList<VelExpressType> supportedExpressTypes(int theShippingGroupId, const VelTarmPriceKey& theKey) const;
+    /// Whether any group has an express fee.
     bool containsExpressAgioProducts() const;
 
     /// How the last load went, with its counts of products. It stands when priceListUpdated() is emitted.
@@ -192,9 +212,11 @@ public:
     /// A new product owned by the caller, or null.
     VelProductAbstract* buildAbstractProduct(const QDomElement& theElement) const;
 
-    /// These read the fee products of one section each.
+    /// Replaces the shippings by those of a section `transfers`.
     void readTransferPrices(const QDomElement& theSection);
+    /// Replaces the payment fees by those of a section `paymethod_fees`.
     void readAdditionalPaymentFees(const QDomElement& theSection);
+    /// Replaces the express fees by those of a section `express_fees`.
     void readExpressFees(const QDomElement& theSection);
 
 public slots:

@@ -15,8 +15,9 @@ public:
     /// The path of a resource of the application, which need not exist. The flag is not looked at.
     QString resource(const QString& theName, bool theFlag) const;
 
-    /// For the host: where resources are found, and where VelXMLConfig finds its files.
+    /// For the host: where resources are found.
     void setResourceDirectory(const QString& theDirectory);
+    /// For the host: where VelXMLConfig finds its files.
     void setConfigurationDirectory(const QString& theDirectory);
 
 private:

@@ -17,16 +17,19 @@ public:
     /// Built on first use, lives to the end of the process.
     static VelKeyAccount* instance();
 
-    /// The two documents of the current key account; they need not exist. The flag is not looked at.
+    /// The price list of the current key account; it need not exist. The flag is not looked at.
     QFileInfo pricelistXMLFileInfo(bool theFlag) const;
+    /// The ordering details of the current key account; they need not exist. The flag is not looked at.
     QFileInfo orderingDetailsXMLFileInfo(bool theFlag) const;
 
     /// Unless set otherwise, every id from 0 up is in use and no negative one.
     bool shippingGroupEnabled(int theId) const;
 
-    /// For the host: set one thing each, and emit nothing.
+    /// For the host: another price list; emits nothing.
     void setPricelistXMLFileInfo(const QFileInfo& theFile);
+    /// For the host: other ordering details; emits nothing.
     void setOrderingDetailsXMLFileInfo(const QFileInfo& theFile);
+    /// For the host: whether that shipping group is in use; emits nothing.
     void setShippingGroupEnabled(int theId, bool theEnabled);
 
     /// For the host: changes to the key account whose folder holds `pricelist.xml` and `orderingdetails.xml`. Takes the

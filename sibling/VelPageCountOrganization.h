@@ -13,9 +13,11 @@ public:
     /// The parts as they are given.
     VelPageCountOrganization(unsigned int theLowest, unsigned int theHighest, unsigned int theStep);
 
-    /// From the lowest to the highest count by steps.
+    /// The lowest page count.
     unsigned int lowest() const { return myLowest; }
+    /// The highest page count.
     unsigned int highest() const { return myHighest; }
+    /// The step from each page count to the next.
     unsigned int step() const { return myStep; }
 
 private:

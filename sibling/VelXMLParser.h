@@ -28,9 +28,11 @@ public:
     static QDateTime dateTimeAttribute(const QDomElement& theElement, const QString& theName, Qt::DateFormat theFormat,
                                        const QDateTime& theDefault);
 
-    /// These read the text of the first child element of a tag, by the same rules.
+    /// The text of the first child element of a tag, as it stands.
     static QString text(const QDomNode& theParent, const QString& theTag, const QString& theDefault);
+    /// The text of the first child element of a tag as a number, read as intAttribute() reads one.
     static int intText(const QDomNode& theParent, const QString& theTag, int theDefault);
+    /// The text of the first child element of a tag as a truth value, read as boolAttribute() reads one.
     static bool boolText(const QDomNode& theParent, const QString& theTag, bool theDefault);
 
     /// The attributes `width` and `height`, whole millimetres; 0 for one that is missing.
