@@ -6,6 +6,7 @@ include(cmake/VelTarmHeaders.cmake)
 set(VELTARM_INSTALL_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR}/veltarm)
 set(VELTARM_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/VelTarm)
 set(VELTARM_INSTALL_SHOPDIR ${CMAKE_INSTALL_DATADIR}/veltarm)
+set(VELTARM_INSTALL_TRANSLATIONSDIR ${CMAKE_INSTALL_DATADIR}/veltarm/translations)
 set(VELTARM_INSTALL_DOCDIR ${CMAKE_INSTALL_DATADIR}/doc/veltarm)
 
 # Other sibling libraries come with a package of their own, which a user of ours has to find first.
@@ -35,10 +36,13 @@ foreach(header IN LISTS VELTARM_PUBLIC_HEADERS)
 endforeach()
 
 configure_package_config_file(cmake/VelTarmConfig.cmake.in ${PROJECT_BINARY_DIR}/VelTarmConfig.cmake
-                              INSTALL_DESTINATION ${VELTARM_INSTALL_CMAKEDIR})
+                              INSTALL_DESTINATION ${VELTARM_INSTALL_CMAKEDIR}
+                              PATH_VARS VELTARM_INSTALL_TRANSLATIONSDIR)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/VelTarmConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/VelTarmConfig.cmake ${PROJECT_BINARY_DIR}/VelTarmConfigVersion.cmake
         DESTINATION ${VELTARM_INSTALL_CMAKEDIR} COMPONENT development)
+install(FILES ${VELTARM_TRANSLATIONS} DESTINATION ${VELTARM_INSTALL_TRANSLATIONSDIR} COMPONENT development)
+
 install(EXPORT VelTarmTargets NAMESPACE VelTarm:: DESTINATION ${VELTARM_INSTALL_CMAKEDIR} COMPONENT development)
 
 if(VELTARM_BUILD_HOST)

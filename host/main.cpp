@@ -1,3 +1,4 @@
+#include "frame/VelTarmTranslation.h"
 #include "host/VelshopAccount.h"
 #include "host/VelshopCommands.h"
 #include "host/VelshopCompletion.h"
@@ -10,7 +11,6 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QTranslator>
 
 #include <cstdio>
 
@@ -34,13 +34,6 @@ private:
     bool myIsUsed = false;
 };
 
-/// The texts stand in German; any other language needs a translation.
-void installLanguage(QTranslator& theTranslator, const QString& theLanguage)
-{
-    if (theLanguage != QLatin1String("de") && theTranslator.load(QStringLiteral(":/veltarm_%1.qm").arg(theLanguage)))
-        QCoreApplication::installTranslator(&theTranslator);
-}
-
 const VelshopCommand* findCommand(const VelshopCommandLine& theLine, VelshopError& theError)
 {
     const VelshopCommand* command = VelshopCommands::find(theLine.command());
@@ -60,8 +53,7 @@ int runCommand(const VelshopCommand& theCommand, const VelshopCommandLine& theLi
     VelshopArguments shared;
     if (!run || !theLine.readShared(shared, theError))
         return EXIT_BAD_INPUT;
-    QTranslator translator;
-    installLanguage(translator, shared.myLanguage);
+    VelTarmTranslation::install(shared.myLanguage);
     if (theCommand.myAccountUse == OPENS_ACCOUNT && !openAccount(shared.myAccount, theError))
         return EXIT_BAD_INPUT;
     return run(theOutput, theError);

@@ -1,8 +1,9 @@
 #include "frame/VelExpressType.h"
+#include "frame/VelTarmTranslation.h"
+#include "product/VelProductAbstract.h"
 #include "support/VelTestMain.h"
 
 #include <QProcess>
-#include <QTranslator>
 
 /// The German texts of the code and the English translation that is shipped beside them.
 class TranslationsTest : public QObject
@@ -28,11 +29,13 @@ private slots:
 
     void namesAreTranslated()
     {
-        QTranslator translator;
-        QVERIFY(translator.load(TRANSLATION_BINARY) && QCoreApplication::installTranslator(&translator));
+        QVERIFY(VelTarmTranslation::install("en_GB") && !VelTarmTranslation::install("fr"));
         const VelExpressType standard(ExpressableType_STANDARD);
         QCOMPARE(standard.humanReadableName(), "Standard production and standard shipping");
         QCOMPARE(VelExpressType::createFromHumanReadable("Standardproduktion und Standardversand"), standard);
+        QCOMPARE(VelProductAbstract::nullProduct()->name(), " (no longer available)");
+        QVERIFY(VelTarmTranslation::install("de"));
+        QCOMPARE(VelProductAbstract::nullProduct()->name(), " (nicht mehr lieferbar)");
     }
 };
 

@@ -3,6 +3,7 @@
 #include "bill/VelTarmBill.h"
 #include "frame/VelTarmGlobalStatus.h"
 #include "frame/VelTarmInitializer.h"
+#include "frame/VelTarmTranslation.h"
 #include "product/VelProductAbstract.h"
 #include "product/VelProductRegistry.h"
 #include "sibling/VelDirectoryConfig.h"
@@ -19,6 +20,7 @@ int main(int argc, char* argv[])
     VelDirectoryConfig::instance()->setConfigurationDirectory(shop);
     VelDirectoryConfig::instance()->setResourceDirectory(shop);
     VelKeyAccount::instance()->activate(QDir(shop));
+    VelTarmTranslation::install(QStringLiteral("en"));
     VelTarmInitializer().setupModule();
 
     VelProductAbstract* product = VelProductRegistry::instance()->productWithArticleID(131);
@@ -30,5 +32,6 @@ int main(int argc, char* argv[])
                            VelTarmGlobalStatus::instance()->status());
     const int cost = bill.totalItemCost(VelProductGroup(PRODUCT_GROUP_ALL));
     qInfo() << cost;
-    return cost == 990 + 20 * 9 ? 0 : 1;
+    const QString express = VelExpressType(ExpressableType_STANDARD).humanReadableName();
+    return cost == 990 + 20 * 9 && express.startsWith(QLatin1String("Standard production")) ? 0 : 1;
 }
