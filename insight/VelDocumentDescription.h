@@ -31,6 +31,7 @@ enum VelNeed {
 /// What is known of an attribute, or of the text of an element.
 struct VELINSIGHT_EXPORT VelValueDescription
 {
+    /// How a value is written.
     enum Type {
         TYPE_CENTS,          ///< whole hundredths of the primary currency
         TYPE_COUNT,          ///< a whole number: pieces, pages, millimetres, levels
@@ -48,9 +49,9 @@ struct VELINSIGHT_EXPORT VelValueDescription
         TYPE_TEXT            ///< free text
     };
 
-    QString myName; ///< of the attribute, null for a text
-    Type myType = TYPE_TEXT;
-    VelNeed myNeed = NEED_MAY;
+    QString myName;             ///< of the attribute, null for a text
+    Type myType = TYPE_TEXT;    ///< how the value is written
+    VelNeed myNeed = NEED_MAY;  ///< whether it has to stand there
     QString myDefault;          ///< what a missing one counts as, null for nothing
     int myLowest = INT_MIN;     ///< the range that makes sense, of numbers
     int myHighest = INT_MAX;    ///< the same
@@ -70,6 +71,7 @@ struct VELINSIGHT_EXPORT VelValueDescription
 class VELINSIGHT_EXPORT VelElementDescription
 {
 public:
+    /// How many elements of the tag are read.
     enum Occurrence {
         ONCE,      ///< the first one counts, further ones aren't read
         ANY_NUMBER ///< all are read
@@ -127,17 +129,21 @@ class VELINSIGHT_EXPORT VelDocumentDescription
     Q_DISABLE_COPY(VelDocumentDescription)
 
 public:
+    /// The documents of a key account, and those that stand beside them.
     enum Kind { PRICE_LIST, ORDERING_DETAILS, CURRENCIES, APPEARANCE, COUPON, PAYMENT_ICONS };
 
+    /// The one of that kind; lives to the end of the process.
     static const VelDocumentDescription& of(Kind theKind);
     /// All of them, in the order of the kinds.
     static QVector<const VelDocumentDescription*> all();
 
+    /// Which document it is.
     Kind kind() const { return myKind; }
     /// The name of its schema without the ending: "pricelist", "payment-icons".
     const QString& name() const { return myName; }
-    /// Where it stands in the folder of an account, "coupons/*.xml" for all coupons.
+    /// Where it stands in the folder of an account, "coupons/" and any name for coupons.
     const QString& file() const { return myFile; }
+    /// The document element.
     const VelElementDescription& root() const { return myRoot; }
 
     /// What an element of such a document is, null where nothing is read.

@@ -49,8 +49,8 @@ public:
         /// That of the price key: DISCOUNT_MODEL_EXPRESS_FEE, as a bill asks for the fee of an express, wants exactly
         /// that model; with any other the models compete.
         VelDiscountModel myModel = DISCOUNT_MODEL_UNDEFINED;
-        Variable myVariable = BY_QUANTITY;
-        Reading myReading = AS_PRICED;
+        Variable myVariable = BY_QUANTITY; ///< what the curve goes along
+        Reading myReading = AS_PRICED;     ///< what it tells
     };
 
     /// The curve of an article, an add-on or a fee. Shipping that is charged by the products of an order has no curve:

@@ -13,6 +13,7 @@
  */
 struct VELINSIGHT_EXPORT VelVocabulary
 {
+    /// One of them.
     struct Word
     {
         QString myText;    ///< as an author writes it
