@@ -39,7 +39,7 @@ public:
     /// The text that was indexed.
     const VelDocumentText& text() const { return myText; }
     /// Number of elements found.
-    int elementCount() const { return myElements.size(); }
+    int elementCount() const { return static_cast<int>(myElements.size()); }
 
     /// The element's `<`. Here and below: no place for a number out of range.
     VelDocumentPlace element(int theNumber) const;

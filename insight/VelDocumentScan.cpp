@@ -40,7 +40,7 @@ int endOfDeclaration(const QString& theText)
     if (!theText.startsWith(STR_DECLARATION))
         return 0;
     const auto end = theText.indexOf(STR_DECLARATION_END);
-    return end < 0 ? 0 : static_cast<int>(end) + STR_DECLARATION_END.size();
+    return end < 0 ? 0 : static_cast<int>(end + STR_DECLARATION_END.size());
 }
 
 QByteArray copyOf(const QString& theText)
@@ -203,7 +203,7 @@ void VelDocumentScan::addComment()
 {
     endText();
     const int start = here();
-    const int text = start + STR_COMMENT.size();
+    const int text = start + static_cast<int>(STR_COMMENT.size());
     const int end = static_cast<int>(myText.indexOf(STR_COMMENT_END, text));
     myWaiting.append(static_cast<int>(myPositions.myComments.size()));
     myPositions.myComments.append({start, -1, myText.mid(text, end - text)});

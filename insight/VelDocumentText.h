@@ -22,7 +22,7 @@ public:
     const QString& text() const { return myText; }
 
     /// Number of lines, at least 1. LF, CR LF and a single CR end a line.
-    int lineCount() const { return myLineStarts.size(); }
+    int lineCount() const { return static_cast<int>(myLineStarts.size()); }
     /// The line of a number from 1, without its end; empty for a number out of range.
     QString line(int theNumber) const;
 
