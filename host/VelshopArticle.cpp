@@ -1,5 +1,6 @@
 #include "host/VelshopArticle.h"
 
+#include "insight/VelShopFees.h"
 #include "product/VelProductRegistry.h"
 
 VelProductAbstract* findArticle(int theArticle, VelshopError& theError)
@@ -8,4 +9,16 @@ VelProductAbstract* findArticle(int theArticle, VelshopError& theError)
     if (!product)
         theError = QStringLiteral("the price list has no article %1").arg(theArticle);
     return product;
+}
+
+VelProductAbstract* findArticleOrFee(int theArticle, VelDiscountModel& theKeyModel, VelshopError& theError)
+{
+    theKeyModel = DISCOUNT_MODEL_UNDEFINED;
+    if (VelProductAbstract* product = VelProductRegistry::instance()->productWithArticleID(theArticle))
+        return product;
+    const VelShopFees::Fee fee = VelShopFees::find(theArticle);
+    if (!fee.myProduct)
+        return findArticle(theArticle, theError);
+    theKeyModel = VelShopFees::keyModel(fee.myKind);
+    return fee.myProduct;
 }

@@ -1,6 +1,7 @@
 #ifndef VELSHOPARTICLE_H
 #define VELSHOPARTICLE_H
 
+#include "frame/VelEnumerations.h"
 #include "host/VelshopError.h"
 
 class VelProductAbstract;
@@ -8,5 +9,8 @@ class VelProductAbstract;
 /// The product of an article id, which stays the registry's; null, with the error in one line, when the price list has
 /// none.
 VelProductAbstract* findArticle(int theArticle, VelshopError& theError);
+
+/// The same of a fee's article, too, with the model that a price key asks for it with.
+VelProductAbstract* findArticleOrFee(int theArticle, VelDiscountModel& theKeyModel, VelshopError& theError);
 
 #endif

@@ -2,6 +2,7 @@
 
 #include "host/VelshopBands.h"
 #include "host/VelshopBill.h"
+#include "host/VelshopCurve.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopList.h"
 #include "host/VelshopOptions.h"
@@ -90,6 +91,18 @@ const QVector<VelshopCommand>& VelshopCommands::all()
          "also an input or the other output is refused.",
          "velshop bill cart.json --html bill.html",
          readAndRun(readBillArguments, billCart)},
+        {"curve",
+         "[ARTICLE]",
+         {},
+         {STR_SOURCE, STR_DELIVERY, STR_TO, STR_LEVEL, STR_BY, STR_SVG, STR_DIPS, STR_GROUP},
+         shared(),
+         OPENS_ACCOUNT,
+         "what every quantity of an article costs, and where more pieces cost less",
+         "A line for each run of quantities of one discount model, level and package, then a plot of the totals. "
+         "Articles, add-ons and fees have curves. With --dips and without an article: all quantities of the shop, or "
+         "of a shipping group, beyond which a larger one costs less, by every order way that is offered.",
+         "velshop curve 131 --to 200 --svg curve.svg",
+         readAndRun(readCurveArguments, drawCurve)},
         {"shop",
          "",
          {},

@@ -25,6 +25,14 @@ const QVector<VelshopOption>& VelshopOptions::all()
         {STR_TEMPLATE, QStringLiteral("CLASS=N"), QStringLiteral("Uses of templates of a price class."), true},
         {STR_HTML, QStringLiteral("FILE"), QStringLiteral("Write a page, to read in a browser and to print.")},
         {STR_DISCOUNTS, QStringLiteral("FILE"), QStringLiteral("Write the description of the discounts as XML.")},
+        {STR_TO, QStringLiteral("N"),
+         QStringLiteral("The last quantity, 100000 at most, or sum in cents; by default ten beyond the start of the "
+                        "last band, and at least 100.")},
+        {STR_LEVEL, QStringLiteral("N"), QStringLiteral("The discount level that an add-on inherits; 0 by default.")},
+        {STR_BY, QStringLiteral("quantity|sum"),
+         QStringLiteral("What runs along the curve: pieces, or the bill sum that shipping is charged by.")},
+        {STR_DIPS, QString(), QStringLiteral("All quantities of the shop beyond which a larger one costs less.")},
+        {STR_SVG, QStringLiteral("FILE"), QStringLiteral("Draw totals and prices per piece as a picture.")},
         {STR_ORDER_TEXT, QString(), QStringLiteral("Print the order-text lines of each product, too.")},
     };
     return options;

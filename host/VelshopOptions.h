@@ -35,6 +35,11 @@ inline const QString STR_VIDEOS = QStringLiteral("videos");
 inline const QString STR_TEMPLATE = QStringLiteral("template");
 inline const QString STR_HTML = QStringLiteral("html");
 inline const QString STR_DISCOUNTS = QStringLiteral("discounts");
+inline const QString STR_TO = QStringLiteral("to");
+inline const QString STR_LEVEL = QStringLiteral("level");
+inline const QString STR_BY = QStringLiteral("by");
+inline const QString STR_DIPS = QStringLiteral("dips");
+inline const QString STR_SVG = QStringLiteral("svg");
 inline const QString STR_ORDER_TEXT = QStringLiteral("order-text");
 
 const QVector<VelshopOption>& all();
