@@ -5,6 +5,7 @@
 #include "host/VelshopBillSheet.h"
 #include "host/VelshopWords.h"
 #include "ordering/VelOrderingDetails.h"
+#include "product/VelProductAbstract.h"
 
 #include <QJsonArray>
 
@@ -40,6 +41,17 @@ QJsonObject toJson(const VelshopBillSums& theSums)
     return amounts;
 }
 
+QJsonArray toJson(const QList<VelshopAdvice>& theAdvice)
+{
+    QJsonArray cheaper;
+    for (const VelshopAdvice& advice : theAdvice)
+        cheaper.append(QJsonObject{{QStringLiteral("article"), advice.myProduct->articleID()},
+                                   {QStringLiteral("count"), advice.myCount},
+                                   {QStringLiteral("better"), advice.myBetter},
+                                   {QStringLiteral("saves"), advice.mySaves}});
+    return cheaper;
+}
+
 QJsonObject toJson(const VelshopBillGroup& theGroup)
 {
     QJsonArray lines;
@@ -50,6 +62,7 @@ QJsonObject toJson(const VelshopBillGroup& theGroup)
             {QStringLiteral("name"), theGroup.myName},
             {QStringLiteral("lines"), lines},
             {QStringLiteral("problems"), QJsonArray::fromStringList(theGroup.myProblems)},
+            {QStringLiteral("cheaper"), toJson(theGroup.myAdvice)},
             {QStringLiteral("sums"), isOrderable ? QJsonValue(toJson(theGroup.mySums)) : QJsonValue()}};
 }
 

@@ -7,7 +7,7 @@
 #include "host/VelshopWords.h"
 #include "ordering/VelOrderingDetails.h"
 #include "ordering/VelTarmShippingGroupManager.h"
-#include "product/VelProductAbstract.h"
+#include "product/VelProductAddOn.h"
 
 namespace {
 
@@ -53,9 +53,24 @@ QString headOf(const VelTarmOrder& theOrder)
                                          : theOrder.expressType().humanReadableName());
 }
 
+/// An add-on whose level is inherited is looked at with the level that it has in this bill.
+QList<VelshopAdvice> adviceOf(const VelTarmOrderBill& theBill, const VelTarmOrder& theOrder)
+{
+    QList<VelshopAdvice> all;
+    const QMap<VelProductAbstract*, int> items = theBill.cart().items();
+    for (auto item = items.cbegin(); item != items.cend(); ++item) {
+        const auto* addOn = dynamic_cast<const VelProductAddOn*>(item.key());
+        const int level = addOn ? theBill.bill().highestLevelOfMainProducts(*addOn) : 0;
+        const VelshopAdvice advice = adviceFor(item.key(), item.value(), theOrder.status().orderSource(), level);
+        if (advice.isGiven())
+            all.append(advice);
+    }
+    return all;
+}
+
 VelshopBillGroup groupOf(const VelTarmOrderBill& theBill, const VelTarmOrder& theOrder)
 {
-    VelshopBillGroup group{theBill.group(), groupName(theBill.group()), {}, {}, {}};
+    VelshopBillGroup group{theBill.group(), groupName(theBill.group()), {}, {}, {}, adviceOf(theBill, theOrder)};
     for (const VelTarmBillPositionAbstract* position : theBill.bill().orderPositions())
         if (VelshopProblems::hasPrice(position->product(), theOrder))
             group.myLines.append(lineOf(*position, theOrder));

@@ -3,6 +3,7 @@
 
 #include "bill/VelTarmOrderAmounts.h"
 #include "frame/VelEnumerations.h"
+#include "host/VelshopAdvice.h"
 #include "host/VelshopError.h"
 
 #include <QList>
@@ -54,8 +55,9 @@ struct VelshopBillGroup
     int myId;
     QString myName;
     QList<VelshopBillLine> myLines;
-    QStringList myProblems; ///< why it can't be ordered, each naming the product
-    VelshopBillSums mySums; ///< without a problem only
+    QStringList myProblems;        ///< why it can't be ordered, each naming the product
+    VelshopBillSums mySums;        ///< without a problem only
+    QList<VelshopAdvice> myAdvice; ///< where more pieces of a product cost less
 };
 
 /// The coupon of an order, and what it takes off.

@@ -3,6 +3,7 @@
 #include "host/VelshopBillMoney.h"
 #include "host/VelshopBillSheet.h"
 #include "host/VelshopTable.h"
+#include "product/VelProductAbstract.h"
 
 #include <QTextStream>
 
@@ -42,6 +43,8 @@ void printGroup(const VelshopBillGroup& theGroup, QTextStream& theOutput)
 {
     theOutput << '\n' << "Shipping group " << theGroup.myId << ' ' << theGroup.myName << '\n';
     printLines(theGroup.myLines, theOutput);
+    for (const VelshopAdvice& advice : theGroup.myAdvice)
+        theOutput << STR_INDENT << advice.myProduct->name() << ": " << advice.text() << '\n';
     for (const QString& problem : theGroup.myProblems)
         theOutput << STR_INDENT << "NOT ORDERABLE  " << problem << '\n';
     if (theGroup.myProblems.isEmpty())

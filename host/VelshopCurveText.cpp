@@ -157,17 +157,6 @@ QString VelshopCurveText::head(const VelshopCurveSheet& theSheet)
              VelshopWords::orderSource(theSheet.mySource));
 }
 
-QString VelshopCurveText::advice(const VelPriceCurve& theCurve, int theCount)
-{
-    for (const VelPriceDip& dip : theCurve.dips())
-        if (dip.myFrom <= theCount && theCount <= dip.myTo)
-            return QStringLiteral("%1 pieces cost %2 less than these %3")
-                .arg(QString::number(dip.myBetter),
-                     VelshopWords::money(theCurve.total(theCount) - theCurve.total(dip.myBetter)),
-                     QString::number(theCount));
-    return QString();
-}
-
 void VelshopCurveText::print(const VelshopCurveSheet& theSheet, QTextStream& theOutput)
 {
     theOutput << head(theSheet) << '\n';

@@ -2,6 +2,7 @@
 
 #include "bill/VelTarmBill.h"
 #include "bill/VelTarmBillPosition.h"
+#include "host/VelshopAdvice.h"
 #include "host/VelshopArticle.h"
 #include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
@@ -134,6 +135,9 @@ void print(const PricedArticle& theArticle, bool theIsJson, QTextStream& theOutp
         theOutput << headText(theArticle) << ": " << VelshopWords::money(theArticle.myAmount) << '\n';
         for (const PricedLine& line : theArticle.myLines)
             theOutput << lineText(line) << '\n';
+        const VelshopAdvice advice = adviceFor(theArticle.myProduct, theArticle.myCount, theArticle.mySource, 0);
+        if (advice.isGiven())
+            theOutput << "  " << advice.text() << '\n';
     }
 }
 
