@@ -31,6 +31,7 @@ struct Comparison
 
 const Comparison COMPARISONS[] = {
     {"load", "bareParse", Bound::AT_MOST, 1.4},
+    {"allCurves", "load", Bound::AT_MOST, 0.5},
     {"reloadObjects", "bareParse", Bound::AT_MOST, 0.35},
     {"reload", "bareParse", Bound::NONE, 0},
     {"liveMemory", nullptr, Bound::AT_MOST, 4.5},

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <vector>
 
 namespace {
 
@@ -87,19 +88,39 @@ private:
 
 } // namespace
 
+VelPriceCurve::VelPriceCurve(const VelTarmPriceView& theView, const Range& theRange) : myEndsAt(theRange.myTo)
+{
+    myIsByProducts = theView.transferModel() == TRANSFER_MODEL_2;
+    if (!myIsByProducts)
+        VelPriceCurveMaker(theView, theRange, *this).make();
+}
+
 VelPriceCurve::VelPriceCurve(const VelProductAbstract& theProduct, const VelOrderSource& theSource,
                              const Range& theRange)
-    : myEndsAt(theRange.myTo)
+    : VelPriceCurve(VelTarmPriceView(theProduct, theSource), theRange)
 {
-    const VelTarmPriceView view(theProduct, theSource);
-    myIsByProducts = view.transferModel() == TRANSFER_MODEL_2;
-    if (!myIsByProducts)
-        VelPriceCurveMaker(view, theRange, *this).make();
 }
 
 VelPriceCurve::VelPriceCurve(const VelProductAbstract& theProduct, const VelOrderSource& theSource)
     : VelPriceCurve(theProduct, theSource, Range())
 {
+}
+
+QVector<VelPriceCurve> VelPriceCurve::bySources(const VelProductAbstract& theProduct,
+                                                const QList<VelOrderSource>& theSources, const Range& theRange)
+{
+    QVector<VelPriceCurve> curves;
+    curves.reserve(theSources.size());
+    std::vector<VelTarmPriceView> views;
+    for (const VelOrderSource& source : theSources) {
+        const VelTarmPriceView view(theProduct, source);
+        const auto same = std::find_if(views.cbegin(), views.cend(),
+                                       [&](const VelTarmPriceView& theView) { return theView.hasSameBands(view); });
+        curves.append(same == views.cend() ? VelPriceCurve(view, theRange)
+                                           : VelPriceCurve(curves.at(static_cast<int>(same - views.cbegin()))));
+        views.push_back(view);
+    }
+    return curves;
 }
 
 QVector<VelPriceDip> VelPriceCurve::dips() const

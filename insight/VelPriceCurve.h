@@ -6,6 +6,7 @@
 #include "insight/VelPriceCurvePiece.h"
 #include "insight/VelPriceDip.h"
 
+#include <QList>
 #include <QVector>
 
 class VelProductAbstract;
@@ -60,6 +61,10 @@ public:
     /// The whole curve by quantity, as priced.
     VelPriceCurve(const VelProductAbstract& theProduct, const VelOrderSource& theSource);
 
+    /// The curves by several order sources, in their order. Those under which the same entries stand are drawn once.
+    static QVector<VelPriceCurve> bySources(const VelProductAbstract& theProduct,
+                                            const QList<VelOrderSource>& theSources, const Range& theRange);
+
     /// By rising quantity; neighbours can't be merged. Quantities without a price stand in none.
     const QVector<VelPriceCurvePiece>& pieces() const { return myPieces; }
 
@@ -88,6 +93,8 @@ public:
 
 private:
     friend class VelPriceCurveMaker;
+
+    VelPriceCurve(const VelTarmPriceView& theView, const Range& theRange);
 
     QVector<VelPriceCurvePiece> myPieces;
     bool myEndsEarly = false;

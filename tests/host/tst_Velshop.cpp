@@ -74,6 +74,10 @@ private slots:
             price 2302 1 --source KIOSK --delivery MAIL | 2        | go together
             price 103 1 --group 1                       | 2        | --group
             price 103 -5                                | 2        | COUNT must be 1 or more
+            curve                                       | 2        | an article or --dips
+            curve 103 --to 100001                       | 2        | 100000
+            curve 103 --by weight                       | 2        | "weight"
+            curve 11007                                 | 1        | charged by the products
             bands                                       | 2        | bands takes 1 argument behind
             bands 99                                    | 2        | 99
             unit 103 --pages 10                         | 2        | pages: belongs to books and calendars alone
