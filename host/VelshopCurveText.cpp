@@ -20,6 +20,16 @@ QString amountOf(const VelshopCurveSheet& theSheet, int theQuantity)
     return theSheet.isBySum() ? VelshopWords::money(theQuantity) : QString::number(theQuantity);
 }
 
+QString nameOf(const VelshopCurveSheet& theSheet)
+{
+    return QStringLiteral("%1 %2").arg(QString::number(theSheet.myProduct->articleID()), theSheet.myProduct->name());
+}
+
+bool differInSourceAlone(const VelshopCurveSheet& theLeft, const VelshopCurveSheet& theRight)
+{
+    return theLeft.myProduct == theRight.myProduct && theLeft.myDips == theRight.myDips;
+}
+
 QString runOf(const VelshopCurveSheet& theSheet, int theFrom, int theTo)
 {
     const QString from = amountOf(theSheet, theFrom);
@@ -152,9 +162,7 @@ private:
 
 QString VelshopCurveText::head(const VelshopCurveSheet& theSheet)
 {
-    return QStringLiteral("%1 %2 by %3")
-        .arg(QString::number(theSheet.myProduct->articleID()), theSheet.myProduct->name(),
-             VelshopWords::orderSource(theSheet.mySource));
+    return QStringLiteral("%1 by %2").arg(nameOf(theSheet), VelshopWords::orderSource(theSheet.mySource));
 }
 
 void VelshopCurveText::print(const VelshopCurveSheet& theSheet, QTextStream& theOutput)
@@ -176,9 +184,15 @@ void VelshopCurveText::printDips(const QList<VelshopCurveSheet>& theSheets, QTex
 {
     if (theSheets.isEmpty())
         theOutput << "No larger quantity costs less than a smaller one.\n";
-    for (const VelshopCurveSheet& sheet : theSheets) {
-        theOutput << head(sheet) << '\n';
+    QString sources;
+    for (int index = 0; index < theSheets.size(); ++index) {
+        const VelshopCurveSheet& sheet = theSheets.at(index);
+        sources += (sources.isEmpty() ? QString() : QStringLiteral("; ")) + VelshopWords::orderSource(sheet.mySource);
+        if (index + 1 < theSheets.size() && differInSourceAlone(sheet, theSheets.at(index + 1)))
+            continue;
+        theOutput << nameOf(sheet) << " by " << sources << '\n';
         for (const VelPriceDip& dip : sheet.myDips)
             theOutput << "  " << dipText(sheet, dip) << '\n';
+        sources.clear();
     }
 }

@@ -10,4 +10,10 @@ struct VelPriceDip
     int mySaves;  ///< the most that is saved by buying that many instead, in cents
 };
 
+inline bool operator==(const VelPriceDip& theLeft, const VelPriceDip& theRight)
+{
+    return theLeft.myFrom == theRight.myFrom && theLeft.myTo == theRight.myTo &&
+           theLeft.myBetter == theRight.myBetter && theLeft.mySaves == theRight.mySaves;
+}
+
 #endif
