@@ -4,106 +4,49 @@
 #include "host/VelshopBillMoney.h"
 #include "host/VelshopBillSheet.h"
 #include "host/VelshopBillWords.h"
+#include "host/VelshopPage.h"
 
 #include <QRegularExpression>
-#include <QXmlStreamWriter>
 
 namespace {
 
-/// Without any character that would have to be escaped, since a browser reads a style as it stands.
 const QString STR_STYLE = QStringLiteral(R"(
-:root { color-scheme: light dark; --ink: #1b1b1f; --faint: #5c5c66; --paper: #ffffff; --rule: #d4d4dc; --alarm: #a3131d; }
-@media (prefers-color-scheme: dark) {
-  :root { --ink: #ececf1; --faint: #a9a9b5; --paper: #17171b; --rule: #43434e; --alarm: #ff9a9a; } }
-@media print {
-  :root { color-scheme: light; --ink: #000000; --faint: #444444; --paper: #ffffff; --rule: #999999; --alarm: #000000; } }
-body { font: 16px/1.45 system-ui, sans-serif; color: var(--ink); background: var(--paper); max-width: 46rem;
-  margin: 2rem auto; padding: 0 1rem; overflow-wrap: anywhere; }
-header { display: flex; flex-wrap: wrap; justify-content: space-between; gap: 0 2rem; color: var(--faint); }
-h1 { margin: 0.5rem 0 1rem; }
-h2 { margin: 2rem 0 0.5rem; font-size: 1.2rem; break-after: avoid; }
 dl { display: grid; grid-template-columns: max-content 1fr; gap: 0.15rem 1.25rem; margin: 0 0 1.5rem; }
 dt { color: var(--faint); }
 dd { margin: 0; }
-table { border-collapse: collapse; width: 100%; }
-th, td { text-align: left; vertical-align: top; padding: 0.4rem 0 0.4rem 1rem; border-bottom: 1px solid var(--rule); }
-th:first-child, td:first-child { padding-left: 0; }
-th { font-weight: 600; overflow-wrap: normal; }
-tr { break-inside: avoid; }
-.number { text-align: right; white-space: nowrap; font-variant-numeric: tabular-nums; }
-.note { display: block; font-size: 0.875rem; color: var(--faint); }
 .sums { width: auto; margin: 0.75rem 0 0 auto; break-inside: avoid; }
 .sums td { border-bottom: 0; padding-top: 0.15rem; padding-bottom: 0.15rem; }
 .sums tr:last-child td { font-weight: 600; border-top: 1px solid var(--rule); }
-.alarm { color: var(--alarm); font-weight: 600; }
-@media (max-width: 34rem) { th, td { padding-left: 0.6rem; } body { margin: 1rem auto; font-size: 15px; } }
 )");
 
-class Page
+QString titleOf(const VelshopBillPageHead& theHead)
+{
+    const QString title = VelshopBillWords::tr("Bestellung");
+    return theHead.myShop.isEmpty() ? title : title + QStringLiteral(" - ") + theHead.myShop;
+}
+
+class BillPage : private VelshopPage
 {
 public:
-    Page(const VelTarmOrder& theOrder, const VelshopBillSheet& theSheet, const VelshopBillPageHead& theHead,
-         QByteArray& theBytes)
-        : myOrder(theOrder), mySheet(theSheet), myHead(theHead), myWriter(&theBytes)
+    BillPage(const VelTarmOrder& theOrder, const VelshopBillSheet& theSheet, const VelshopBillPageHead& theHead)
+        : VelshopPage(titleOf(theHead), theHead.myLanguage, STR_STYLE)
+        , myOrder(theOrder)
+        , mySheet(theSheet)
+        , myHead(theHead)
     {
     }
 
-    void write()
+    QByteArray write()
     {
-        myWriter.writeDTD(QStringLiteral("<!DOCTYPE html>\n"));
-        start("html", {{QStringLiteral("xmlns"), QStringLiteral("http://www.w3.org/1999/xhtml")},
-                       {QStringLiteral("lang"), myHead.myLanguage}});
-        writeHead();
-        start("body");
         writeTitle();
         writeChoices();
         for (int index = 0; index < mySheet.myGroups.size(); ++index)
             writeGroup(mySheet.myGroups.at(index), myOrder.bills().at(index));
         writeTotal();
-        myWriter.writeEndDocument();
+        return finish();
     }
 
 private:
-    void start(const char* theTag, const QVector<QXmlStreamAttribute>& theAttributes = {})
-    {
-        myWriter.writeStartElement(QLatin1String(theTag));
-        for (const QXmlStreamAttribute& attribute : theAttributes)
-            myWriter.writeAttribute(attribute);
-    }
-
-    void startWithClass(const char* theTag, const char* theClass)
-    {
-        start(theTag);
-        if (*theClass)
-            myWriter.writeAttribute(QStringLiteral("class"), QLatin1String(theClass));
-    }
-
-    void end() { myWriter.writeEndElement(); }
-
-    void text(const char* theTag, const QString& theText, const char* theClass = "")
-    {
-        startWithClass(theTag, theClass);
-        myWriter.writeCharacters(theText);
-        end();
-        newLine();
-    }
-
-    void newLine() { myWriter.writeCharacters(QStringLiteral("\n")); }
-
-    void writeHead()
-    {
-        start("head");
-        start("meta", {{QStringLiteral("charset"), QStringLiteral("utf-8")}});
-        end();
-        start("meta", {{QStringLiteral("name"), QStringLiteral("viewport")},
-                       {QStringLiteral("content"), QStringLiteral("width=device-width, initial-scale=1")}});
-        end();
-        const QString title = VelshopBillWords::tr("Bestellung");
-        text("title", myHead.myShop.isEmpty() ? title : title + QStringLiteral(" - ") + myHead.myShop);
-        text("style", STR_STYLE);
-        end();
-    }
-
     void writeTitle()
     {
         start("header");
@@ -139,7 +82,7 @@ private:
         if (!theGroup.myLines.isEmpty())
             writeLines(theGroup.myLines);
         for (const VelTarmOrderObjection& objection : theBill.objections())
-            text("p", VelshopBillWords::problem(objection), "alarm");
+            text("p", VelshopBillWords::problem(objection), QStringLiteral("alarm"));
         if (mySheet.isOrderable() && mySheet.myGroups.size() > 1) // those of a single group are the order's
             writeSums(theGroup.mySums);
     }
@@ -149,9 +92,9 @@ private:
         start("table");
         start("tr");
         text("th", VelshopBillWords::tr("Artikel"));
-        text("th", VelshopBillWords::tr("Stück"), "number");
-        text("th", VelshopBillWords::tr("Einzelpreis"), "number");
-        text("th", VelshopBillWords::tr("Betrag"), "number");
+        text("th", VelshopBillWords::tr("Stück"), QStringLiteral("number"));
+        text("th", VelshopBillWords::tr("Einzelpreis"), QStringLiteral("number"));
+        text("th", VelshopBillWords::tr("Betrag"), QStringLiteral("number"));
         end();
         for (const VelshopBillLine& line : theLines)
             writeLine(line);
@@ -162,13 +105,13 @@ private:
     {
         start("tr");
         start("td");
-        myWriter.writeCharacters(theLine.myProduct);
+        characters(theLine.myProduct);
         const QStringList notes = VelshopBillWords::notes(theLine);
         if (!notes.isEmpty())
-            text("span", notes.join(QStringLiteral(", ")), "note");
+            text("span", notes.join(QStringLiteral(", ")), QStringLiteral("note"));
         end();
-        text("td", QString::number(theLine.myPieces), "number");
-        startWithClass("td", "number");
+        text("td", QString::number(theLine.myPieces), QStringLiteral("number"));
+        startWithClass("td", QStringLiteral("number"));
         if (theLine.myOldPrice != -1) {
             start("s");
             money(theLine.myOldPrice, false);
@@ -187,16 +130,17 @@ private:
         text("h2", VelshopBillWords::tr("Gesamte Bestellung"));
         for (const VelTarmOrderObjection& objection : myOrder.objections())
             if (objection.myGroup == VelTarmOrderObjection::NO_GROUP)
-                text("p", VelshopBillWords::problem(objection), "alarm");
+                text("p", VelshopBillWords::problem(objection), QStringLiteral("alarm"));
         if (mySheet.isOrderable())
             writeSums(mySheet.mySums);
         else
-            text("p", VelshopBillWords::tr("Diese Bestellung kann so nicht aufgegeben werden."), "alarm");
+            text("p", VelshopBillWords::tr("Diese Bestellung kann so nicht aufgegeben werden."),
+                 QStringLiteral("alarm"));
     }
 
     void writeSums(const VelTarmOrderAmounts& theSums)
     {
-        startWithClass("table", "sums");
+        startWithClass("table", QStringLiteral("sums"));
         for (const VelshopBillWords::Sum& sum : VelshopBillWords::sums(theSums)) {
             start("tr");
             text("td", sum.myName);
@@ -210,10 +154,10 @@ private:
 
     void amount(int theAmount, bool theSecondary)
     {
-        startWithClass("td", "number");
+        startWithClass("td", QStringLiteral("number"));
         money(theAmount, theSecondary);
         end();
-        newLine();
+        characters(QStringLiteral("\n"));
     }
 
     /// Numbered characters stay as they are; all else is escaped, whatever the currency's symbol holds.
@@ -226,11 +170,11 @@ private:
             const QRegularExpressionMatch match = matches.next();
             if (!isPrintable(match.captured(1).toInt()))
                 continue;
-            myWriter.writeCharacters(amount.mid(written, match.capturedStart() - written));
-            myWriter.writeEntityReference(QLatin1Char('#') + match.captured(1));
+            characters(amount.mid(written, match.capturedStart() - written));
+            writer().writeEntityReference(QLatin1Char('#') + match.captured(1));
             written = match.capturedEnd();
         }
-        myWriter.writeCharacters(amount.mid(written));
+        characters(amount.mid(written));
     }
 
     /// Not a control character, nor half a character.
@@ -242,14 +186,11 @@ private:
     const VelTarmOrder& myOrder;
     const VelshopBillSheet& mySheet;
     const VelshopBillPageHead& myHead;
-    QXmlStreamWriter myWriter;
 };
 
 } // namespace
 
 QByteArray billPage(const VelTarmOrder& theOrder, const VelshopBillSheet& theSheet, const VelshopBillPageHead& theHead)
 {
-    QByteArray bytes;
-    Page(theOrder, theSheet, theHead, bytes).write();
-    return bytes;
+    return BillPage(theOrder, theSheet, theHead).write();
 }
