@@ -7,6 +7,7 @@
 #include "host/VelshopList.h"
 #include "host/VelshopOptions.h"
 #include "host/VelshopPrice.h"
+#include "host/VelshopReport.h"
 #include "host/VelshopSchema.h"
 #include "host/VelshopShop.h"
 #include "host/VelshopTypes.h"
@@ -103,6 +104,16 @@ const QVector<VelshopCommand>& VelshopCommands::all()
          "of a shipping group, beyond which a larger one costs less, by every order way that is offered.",
          "velshop curve 131 --to 200 --svg curve.svg",
          readAndRun(readCurveArguments, drawCurve)},
+        {"report",
+         "",
+         {STR_HTML},
+         {},
+         shared(),
+         OPENS_ACCOUNT,
+         "the whole shop as a page: conditions, articles with their prices, fees",
+         "For the people who own the shop, to be read in a browser and to be printed. One file, which loads nothing.",
+         "velshop report --html shop.html",
+         readAndRun(readReportArguments, reportShop)},
         {"shop",
          "",
          {},

@@ -16,6 +16,8 @@ const double RIGHT = 880;
 const double TOP = 64;
 const double PANEL_HEIGHT = 250;
 const double GAP = 56;
+const double SMALL_WIDTH = 120;
+const double SMALL_HEIGHT = 36;
 const int SAMPLES = 48; ///< of a price per piece, which is no straight line within a piece
 const int TICKS = 5;
 
@@ -268,4 +270,30 @@ QByteArray VelshopCurveSvg::picture(const VelshopCurveSheet& theSheet)
     QByteArray bytes;
     Picture(theSheet, bytes).draw();
     return bytes;
+}
+
+void VelshopCurveSvg::writeSmall(const VelPriceCurve& theCurve, int theFrom, int theTo, QXmlStreamWriter& theWriter)
+{
+    Axis amounts{0, 1, SMALL_HEIGHT - 1, 1};
+    for (const VelPriceCurvePiece& piece : theCurve.pieces())
+        for (const int amount : {piece.myFirst, piece.last()}) {
+            amounts.myLowest = qMin<double>(amounts.myLowest, amount);
+            amounts.myHighest = qMax<double>(amounts.myHighest, amount);
+        }
+    const Axis quantities{static_cast<double>(theFrom), static_cast<double>(theTo), 1, SMALL_WIDTH - 1};
+    QString path;
+    for (const VelPriceCurvePiece& piece : theCurve.pieces())
+        path += QStringLiteral("M%1 %2L%3 %4")
+                    .arg(QString::number(quantities.at(piece.myFrom), 'f', 1),
+                         QString::number(amounts.at(piece.myFirst), 'f', 1),
+                         QString::number(quantities.at(piece.myTo), 'f', 1),
+                         QString::number(amounts.at(piece.last()), 'f', 1));
+    theWriter.writeStartElement(QStringLiteral("svg"));
+    theWriter.writeAttribute(QStringLiteral("xmlns"), QStringLiteral("http://www.w3.org/2000/svg"));
+    theWriter.writeAttribute(QStringLiteral("class"), QStringLiteral("spark"));
+    theWriter.writeAttribute(QStringLiteral("viewBox"), QStringLiteral("0 0 %1 %2").arg(SMALL_WIDTH).arg(SMALL_HEIGHT));
+    theWriter.writeAttribute(QStringLiteral("aria-hidden"), QStringLiteral("true"));
+    theWriter.writeEmptyElement(QStringLiteral("path"));
+    theWriter.writeAttribute(QStringLiteral("d"), path);
+    theWriter.writeEndElement();
 }

@@ -165,18 +165,6 @@ QJsonObject flags()
             {QStringLiteral("salesTaxCheck"), details->requiresSalesTaxCheck()}};
 }
 
-QJsonObject conditions()
-{
-    return {{STR_ORDER_WAYS, orderWays()},
-            {STR_START, start()},
-            {STR_CURRENCIES, currencies()},
-            {STR_SHIPPING_GROUPS, shippingGroups()},
-            {STR_PRODUCT_GROUPS, productGroups()},
-            {STR_IMAGE_EXPORTS, imageExports()},
-            {STR_FLAGS, flags()},
-            {STR_OUTDATED, VelOrderingDetails::instance()->priceListNeedsToBeUpdated()}};
-}
-
 QString joined(const QJsonArray& theTexts)
 {
     QStringList texts;
@@ -260,9 +248,21 @@ void printFlags(const QJsonObject& theConditions, QTextStream& theOutput)
 
 } // namespace
 
+QJsonObject shopConditions()
+{
+    return {{STR_ORDER_WAYS, orderWays()},
+            {STR_START, start()},
+            {STR_CURRENCIES, currencies()},
+            {STR_SHIPPING_GROUPS, shippingGroups()},
+            {STR_PRODUCT_GROUPS, productGroups()},
+            {STR_IMAGE_EXPORTS, imageExports()},
+            {STR_FLAGS, flags()},
+            {STR_OUTDATED, VelOrderingDetails::instance()->priceListNeedsToBeUpdated()}};
+}
+
 int showShop(const VelshopArguments& theArguments, QTextStream& theOutput, VelshopError&)
 {
-    const QJsonObject shop = conditions();
+    const QJsonObject shop = shopConditions();
     if (theArguments.myIsJson) {
         theOutput << QJsonDocument(shop).toJson();
         return EXIT_DONE;

@@ -1,0 +1,11 @@
+#ifndef VELSHOPREPORTPAGE_H
+#define VELSHOPREPORTPAGE_H
+
+#include <QByteArray>
+#include <QString>
+
+/// The whole shop on one page, for those who own it: conditions, articles with their ladders, and fees. The account's
+/// documents are those that the library has read.
+QByteArray reportPage(const QString& theShop, const QString& theAccount);
+
+#endif
