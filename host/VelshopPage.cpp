@@ -20,7 +20,7 @@ th:first-child, td:first-child { padding-left: 0; }
 th { font-weight: 600; overflow-wrap: normal; }
 tr { break-inside: avoid; }
 .number { text-align: right; white-space: nowrap; font-variant-numeric: tabular-nums; }
-.note { display: block; font-size: 0.875rem; color: var(--faint); }
+.note { display: block; font-size: 0.875em; color: var(--faint); }
 .alarm { color: var(--alarm); font-weight: 600; }
 @media (max-width: 34rem) { th, td { padding-left: 0.6rem; } body { margin: 1rem auto; font-size: 15px; } }
 )");

@@ -80,14 +80,15 @@ bool isSame(const VelPriceCurve& theLeft, const VelPriceCurve& theRight)
                       });
 }
 
-/// By the order ways that are offered and have a price.
+/// By the order ways that are offered and have a price. A range of one piece stays one.
 QList<Ladder> laddersOf(const VelProductAbstract& theProduct, VelPriceCurve::Range theRange)
 {
     QList<Ladder> ladders;
     const QList<VelOrderSource> sources = VelOrderingDetails::instance()->availableOrderSources();
     theRange.myReading = VelPriceCurve::AS_SOLD;
-    theRange.myTo = 0;
-    for (const VelOrderSource& source : sources)
+    const bool isOfOnePiece = theRange.myTo == 1;
+    theRange.myTo = 1;
+    for (const VelOrderSource& source : isOfOnePiece ? QList<VelOrderSource>() : sources)
         theRange.myTo = qMax(theRange.myTo, VelPriceCurve::telling(theProduct, source, theRange.myVariable));
     const QVector<VelPriceCurve> curves = VelPriceCurve::bySources(theProduct, sources, theRange);
     for (int index = 0; index < curves.size(); ++index) {
@@ -105,7 +106,7 @@ QList<Ladder> laddersOf(const VelProductAbstract& theProduct, VelPriceCurve::Ran
     return ladders;
 }
 
-/// As "from 50: 0,10 € each", "1 to 50: 5,90 €" or "from 101: 9,99 € and 0,09 € for each more".
+/// As "0,95 €", "from 50: 0,10 € each", "1 to 50: 5,90 €" or "from 101: 9,99 € and 0,09 € for each more".
 QString runText(const VelPriceCurvePiece& thePiece, const VelPriceCurve::Range& theRange)
 {
     const bool isBySum = theRange.myVariable == VelPriceCurve::BY_SUM;
@@ -116,6 +117,9 @@ QString runText(const VelPriceCurvePiece& thePiece, const VelPriceCurve::Range& 
                             ? QStringLiteral("from %1").arg(amount(thePiece.myFrom))
                             : QStringLiteral("%1 to %2").arg(amount(thePiece.myFrom), amount(thePiece.myTo));
     const QString first = VelshopWords::money(thePiece.myFirst);
+    const bool isWhole = thePiece.myFrom == theRange.myFrom && thePiece.myTo == theRange.myTo;
+    if (isWhole && (thePiece.myPerPiece == 0 || theRange.myTo == 1))
+        return first;
     if (thePiece.myPerPiece == 0)
         return QStringLiteral("%1: %2").arg(run, first);
     const QString each = VelshopWords::money(thePiece.myPerPiece);
@@ -261,6 +265,8 @@ private:
     {
         VelPriceCurve::Range range;
         range.myModel = VelShopFees::keyModel(theFee.myKind);
+        if (theFee.myKind == VelShopFees::FEE_PAYMENT)
+            range.myTo = 1; // once for a bill
         if (!theFee.myProduct)
             return writeNote(noteOf(theFee), QStringLiteral("costs nothing"));
         const QString name = numberAndName(theFee.myProduct->articleID(), theFee.myProduct->name());
