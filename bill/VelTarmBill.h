@@ -59,6 +59,15 @@ public:
     /// The id that the constructor was given.
     int shippingGroup() const { return myShippingGroup; }
 
+    /// The cart that the constructor was given.
+    const VelOrderStatistic& cart() const { return myStatistic; }
+    /// Its order source and payment.
+    const VelTarmStatus& status() const { return myStatus; }
+    /// The express type that the constructor was given.
+    const VelExpressType& expressType() const { return myExpressType; }
+    /// How transferFee() answers.
+    TransferState transferState() const { return myTransferState; }
+
     /// The fee product of the group's shipping, borrowed from the registry; null when it has none.
     VelProductAbstract* transferProduct() const;
     /// The article id of transferProduct(), -1 for none.

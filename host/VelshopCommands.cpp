@@ -4,6 +4,7 @@
 #include "host/VelshopBill.h"
 #include "host/VelshopCurve.h"
 #include "host/VelshopExitCode.h"
+#include "host/VelshopExplain.h"
 #include "host/VelshopList.h"
 #include "host/VelshopOptions.h"
 #include "host/VelshopPrice.h"
@@ -114,6 +115,17 @@ const QVector<VelshopCommand>& VelshopCommands::all()
          "For the people who own the shop, to be read in a browser and to be printed. One file, which loads nothing.",
          "velshop report --html shop.html",
          readAndRun(readReportArguments, reportShop)},
+        {"explain",
+         "ARTICLE COUNT",
+         {},
+         {STR_SOURCE, STR_DELIVERY, STR_LEVEL, STR_ALL},
+         shared(),
+         OPENS_ACCOUNT,
+         "why so many pieces cost what they do, or have no price, down to the places in the documents",
+         "For each amount it names the discount model that was taken and why, the band that was reached and how far the "
+         "next one is. Each place is told as file:line:column.",
+         "velshop explain 131 80 --source CD",
+         readAndRun(readExplainArguments, explain)},
         {"shop",
          "",
          {},

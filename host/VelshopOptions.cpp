@@ -34,6 +34,7 @@ const QVector<VelshopOption>& VelshopOptions::all()
         {STR_DIPS, QString(), QStringLiteral("All quantities of the shop beyond which a larger one costs less.")},
         {STR_SVG, QStringLiteral("FILE"), QStringLiteral("Draw totals and prices per piece as a picture.")},
         {STR_ORDER_TEXT, QString(), QStringLiteral("Print the order-text lines of each product, too.")},
+        {STR_ALL, QString(), QStringLiteral("Print every candidate, and every place in the documents.")},
     };
     return options;
 }

@@ -1,5 +1,6 @@
 #include "host/VelshopWords.h"
 
+#include "insight/VelPriceWords.h"
 #include "ordering/VelCurrencyConfig.h"
 
 #include <QVector>
@@ -25,17 +26,6 @@ const QVector<Word<VelDeliveryType>> DELIVERY_TYPES = {
     {"MAIL", DELIVERY_TYPE_MAILORDER},
     {"ONSITE", DELIVERY_TYPE_ON_SITE},
     {"ANY", DELIVERY_TYPE_ANY},
-};
-
-const QVector<Word<VelDiscountModel>> DISCOUNT_MODELS = {
-    {"bulk", DISCOUNT_MODEL_BULK},
-    {"level package", DISCOUNT_MODEL_LEVEL_PACKAGE},
-    {"package", DISCOUNT_MODEL_PACKAGE},
-    {"shipping by quantity", DISCOUNT_MODEL_BULK_TRANSFER},
-    {"shipping by bill sum", DISCOUNT_MODEL_BILLING_SUM_TRANSFER},
-    {"shipping by products", DISCOUNT_MODEL_TRANSFER_2},
-    {"express fee", DISCOUNT_MODEL_EXPRESS_FEE},
-    {"inherited discount", DISCOUNT_MODEL_INHERITED_DISCOUNT},
 };
 
 const QVector<Word<VelCouponType>> COUPON_TYPES = {
@@ -104,8 +94,7 @@ bool VelshopWords::readDeliveryType(const QString& theWord, VelDeliveryType& the
 
 QString VelshopWords::orderSource(const VelOrderSource& theOrderSource)
 {
-    return wordOf(INPUT_SOURCES, theOrderSource.inputSource()) + QStringLiteral(", ") +
-           wordOf(DELIVERY_TYPES, theOrderSource.deliveryType());
+    return VelPriceWords::orderSource(theOrderSource);
 }
 
 QJsonObject VelshopWords::orderSourceData(const VelOrderSource& theOrderSource)
@@ -126,7 +115,7 @@ QString VelshopWords::couponType(VelCouponType theCouponType)
 
 QString VelshopWords::discountModel(VelDiscountModel theDiscountModel)
 {
-    return wordOf(DISCOUNT_MODELS, theDiscountModel);
+    return VelPriceWords::model(theDiscountModel);
 }
 
 QString VelshopWords::productClass(VelProductClass theProductClass)

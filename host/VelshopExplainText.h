@@ -1,0 +1,31 @@
+#ifndef VELSHOPEXPLAINTEXT_H
+#define VELSHOPEXPLAINTEXT_H
+
+#include "insight/VelPriceExplanation.h"
+
+#include <QString>
+#include <QStringList>
+
+class QTextStream;
+
+/// Prints an explanation for people: for each term a line, its reason and the places of its prices; on request every
+/// candidate and every place. The head says what is explained.
+void printExplanation(const VelPriceExplanation& theExplanation, const QString& theHead, bool theIsAll,
+                      QTextStream& theOutput);
+
+/// As "2 Roll bundle M, 80 pieces".
+QString termText(const VelExplainedTerm& theTerm);
+
+/// As "4.62 €", "no price" where there is none.
+QString amountText(bool theHasPrice, qint64 theAmount);
+
+/// As "131 to 140: 4.62 €, 1 x 450: passed over".
+QString candidateText(const VelExplainedCandidate& theCandidate);
+
+/// As "NET, MAIL from 10 pieces".
+QString needText(const VelExplainedNeed& theNeed);
+
+/// As "shop/pricelist.xml:45:23: price="450"".
+QString placeText(const VelExplainedPlace& thePlace);
+
+#endif
