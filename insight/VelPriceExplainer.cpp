@@ -1,21 +1,12 @@
 #include "insight/VelPriceExplainer.h"
 
+#include "bill/VelTarmOrder.h"
+#include "frame/VelArithmetic.h"
+#include "insight/VelBillExplainer.h"
+#include "insight/VelCouponExplainer.h"
 #include "insight/VelExplanationSources.h"
-#include "insight/VelPriceWords.h"
 #include "insight/VelTermExplainer.h"
 #include "product/VelProductAbstract.h"
-
-namespace {
-
-void tellInheritance(VelExplainedTerm& theTerm, const VelInheritedLevel& theInherited)
-{
-    if (theInherited.myMainProduct)
-        theTerm.myReason +=
-            QStringLiteral("; inherits level %1 of %2")
-                .arg(QString::number(theInherited.myLevel), VelPriceWords::product(*theInherited.myMainProduct));
-}
-
-} // namespace
 
 VelPriceExplainer::VelPriceExplainer(const QStringList& theCouponFiles) : mySources(new VelExplanationSources)
 {
@@ -38,4 +29,27 @@ VelPriceExplanation VelPriceExplainer::price(const VelProductAbstract& theProduc
     VelExplainedTerm term = VelTermExplainer(*mySources).term(theProduct, question, theStatistic);
     tellInheritance(term, inherited);
     return {{term}, term.myAmount};
+}
+
+VelPriceExplanation VelPriceExplainer::bill(const VelTarmBill& theBill) const
+{
+    return {VelBillExplainer(theBill, *mySources).terms({}, 0), theBill.totalFinalCost(0)};
+}
+
+VelPriceExplanation VelPriceExplainer::order(const VelTarmOrder& theOrder) const
+{
+    QVector<VelExplainedTerm> terms;
+    QVector<int> taken(theOrder.coupons().size(), 0);
+    for (const VelTarmOrderBill& bill : theOrder.bills()) {
+        QVector<VelExplainedTerm> coupons;
+        for (int number = 0; number < taken.size(); ++number) {
+            const int share = bill.couponShares().at(number);
+            coupons.append(VelCouponExplainer(bill.bill(), *mySources)
+                               .term(theOrder.coupons().at(number).coupon(),
+                                     {number, share, taken.at(number), bill.objections().isEmpty()}));
+            taken[number] = VelArithmetic::sum(taken.at(number), share);
+        }
+        terms += VelBillExplainer(bill.bill(), *mySources).terms(coupons, bill.couponAmount());
+    }
+    return {terms, theOrder.amounts().myTotal};
 }

@@ -46,6 +46,12 @@ public:
                               const VelTarmBill* theBill = nullptr, const VelOrderStatistic* theStatistic = nullptr,
                               int theBillingSum = 0, int theInheritedLevel = LEVEL_OF_BILL) const;
 
+    /// Every amount of a bill without coupons: what the terms charge adds up to VelTarmBill::totalFinalCost(0).
+    VelPriceExplanation bill(const VelTarmBill& theBill) const;
+
+    /// Every amount of an order, bill after bill, with its coupons.
+    VelPriceExplanation order(const VelTarmOrder& theOrder) const;
+
 private:
     std::unique_ptr<VelExplanationSources> mySources;
 };

@@ -51,6 +51,14 @@ VelInheritedLevel inheritedLevel(const VelProductAbstract& theProduct, const Vel
     return inherited;
 }
 
+void tellInheritance(VelExplainedTerm& theTerm, const VelInheritedLevel& theInherited)
+{
+    if (theInherited.myMainProduct)
+        theTerm.myReason +=
+            QStringLiteral("; inherits level %1 of %2")
+                .arg(QString::number(theInherited.myLevel), VelPriceWords::product(*theInherited.myMainProduct));
+}
+
 VelExplainedTerm VelTermExplainer::term(const VelProductAbstract& theProduct, const VelPriceQuestion& theQuestion,
                                         const VelOrderStatistic* theStatistic) const
 {

@@ -20,6 +20,9 @@ struct VelInheritedLevel
 /// made, only the products in front of the add-on are there: those are meant with theIsInBill.
 VelInheritedLevel inheritedLevel(const VelProductAbstract& theProduct, const VelTarmBill* theBill, bool theIsInBill);
 
+/// Adds to the reason of an add-on where its level comes from.
+void tellInheritance(VelExplainedTerm& theTerm, const VelInheritedLevel& theInherited);
+
 /// Explains the price of one product, be it an article or a fee.
 class VelTermExplainer
 {
