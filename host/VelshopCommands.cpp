@@ -1,5 +1,6 @@
 #include "host/VelshopCommands.h"
 
+#include "host/VelshopAudit.h"
 #include "host/VelshopBands.h"
 #include "host/VelshopBill.h"
 #include "host/VelshopCurve.h"
@@ -146,6 +147,19 @@ const QVector<VelshopCommand>& VelshopCommands::all()
          "The types are those of the products that a customer composes: books, calendars, cards and gifts.",
          "velshop types --json",
          justRun(listTypes)},
+        {"audit",
+         "",
+         {},
+         {STR_RULES},
+         {STR_ACCOUNT, STR_JSON},
+         OPENS_NO_ACCOUNT,
+         "what is wrong in the documents of a shop, with file, line and column",
+         "Errors cost a price or an article, warnings tell what isn't read as it is written, notes are worth knowing. "
+         "The library takes whatever stands in the documents; this tells before a customer sees it.\n"
+         "A comment \"audit: allow RULE because ...\" in front of an element takes that rule's findings away.\n"
+         "The exit code is 0 without errors and warnings, 1 with some, and 2 when a document can't be read.",
+         "velshop audit --account shop-small",
+         readAndRun(readAuditArguments, auditAccount)},
         {"schema",
          "DIR",
          {},
@@ -177,8 +191,9 @@ QString VelshopCommands::description()
 
 const QVector<VelshopCommands::ExitMeaning>& VelshopCommands::exitMeanings()
 {
-    static const QVector<ExitMeaning> meanings{{EXIT_DONE, "done"},
-                                               {EXIT_NO_PRICE, "there is no price, or the order can't be placed"},
-                                               {EXIT_BAD_INPUT, "a wrong argument or an unreadable document"}};
+    static const QVector<ExitMeaning> meanings{
+        {EXIT_DONE, "done"},
+        {EXIT_NO_PRICE, "there is no price, the order can't be placed, or the audit found something"},
+        {EXIT_BAD_INPUT, "a wrong argument or an unreadable document"}};
     return meanings;
 }

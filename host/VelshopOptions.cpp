@@ -33,6 +33,7 @@ const QVector<VelshopOption>& VelshopOptions::all()
          QStringLiteral("What runs along the curve: pieces, or the bill sum that shipping is charged by.")},
         {STR_DIPS, QString(), QStringLiteral("All quantities of the shop beyond which a larger one costs less.")},
         {STR_SVG, QStringLiteral("FILE"), QStringLiteral("Draw totals and prices per piece as a picture.")},
+        {STR_RULES, QString(), QStringLiteral("List the rules, each with its severity and a sentence.")},
         {STR_ORDER_TEXT, QString(), QStringLiteral("Print the order-text lines of each product, too.")},
         {STR_ALL, QString(), QStringLiteral("Print every candidate, and every place in the documents.")},
     };

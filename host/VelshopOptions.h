@@ -40,6 +40,7 @@ inline const QString STR_LEVEL = QStringLiteral("level");
 inline const QString STR_BY = QStringLiteral("by");
 inline const QString STR_DIPS = QStringLiteral("dips");
 inline const QString STR_SVG = QStringLiteral("svg");
+inline const QString STR_RULES = QStringLiteral("rules");
 inline const QString STR_ORDER_TEXT = QStringLiteral("order-text");
 inline const QString STR_ALL = QStringLiteral("all");
 
