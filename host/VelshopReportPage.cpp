@@ -4,6 +4,7 @@
 #include "host/VelshopPage.h"
 #include "host/VelshopShop.h"
 #include "host/VelshopWords.h"
+#include "insight/VelAudit.h"
 #include "insight/VelPriceCurve.h"
 #include "insight/VelShopFees.h"
 #include "ordering/VelOrderingDetails.h"
@@ -13,6 +14,7 @@
 #include "product/VelProductRegistry.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QMap>
@@ -32,6 +34,8 @@ h3 { margin: 1.2rem 0 0.3rem; font-size: 1rem; break-after: avoid; }
 .spark { width: 7.5rem; height: 2.25rem; display: block; }
 .spark path { fill: none; stroke: var(--ink); stroke-width: 1.5; stroke-linecap: round; }
 .picture { width: 8rem; }
+.finding { margin: 0.75rem 0; break-inside: avoid; }
+.finding code { font-size: 0.875em; }
 @media (max-width: 34rem) { .picture { display: none; } .prices td:first-child { width: 6rem; } .ladder li { white-space: normal; } }
 @media print { nav { display: none; } body { font-size: 11px; } }
 )");
@@ -130,8 +134,11 @@ QString runText(const VelPriceCurvePiece& thePiece, const VelPriceCurve::Range& 
 class ReportPage : private VelshopPage
 {
 public:
-    explicit ReportPage(const QString& theShop)
-        : VelshopPage(theShop, QStringLiteral("en"), STR_STYLE), myShop(theShop), myConditions(shopConditions())
+    ReportPage(const QString& theShop, const QString& theAccount)
+        : VelshopPage(theShop, QStringLiteral("en"), STR_STYLE)
+        , myShop(theShop)
+        , myConditions(shopConditions())
+        , myAudit(QDir(theAccount))
     {
     }
 
@@ -146,6 +153,7 @@ public:
         writeConditions();
         writeArticles();
         writeFees();
+        writeFindings();
         return finish();
     }
 
@@ -153,7 +161,7 @@ private:
     void writeContents()
     {
         start("nav");
-        for (const char* title : {"Conditions", "Articles", "Fees"}) {
+        for (const char* title : {"Conditions", "Articles", "Fees", "Findings"}) {
             start("a", {{QStringLiteral("href"), QLatin1Char('#') + idOf(title)}});
             characters(QLatin1String(title));
             end();
@@ -354,13 +362,38 @@ private:
         end();
     }
 
+    // ---- what the audit says
+
+    void writeFindings()
+    {
+        section("Findings");
+        text("p", QStringLiteral("%1 errors, %2 warnings and %3 notes on the documents.")
+                      .arg(myAudit.count(SEVERITY_ERROR))
+                      .arg(myAudit.count(SEVERITY_WARNING))
+                      .arg(myAudit.count(SEVERITY_NOTE)));
+        for (const VelAuditFinding& finding : myAudit.findings())
+            writeFinding(finding);
+    }
+
+    void writeFinding(const VelAuditFinding& theFinding)
+    {
+        startWithClass("div", QStringLiteral("finding"));
+        text("b", VelAuditFinding::nameOf(theFinding.mySeverity),
+             theFinding.mySeverity == SEVERITY_ERROR ? QStringLiteral("alarm") : QString());
+        characters(QStringLiteral(" %1 [%2]").arg(theFinding.myMessage, theFinding.myRule));
+        text("span", theFinding.placeText(), QStringLiteral("note"));
+        text("code", myAudit.lineOf(theFinding).trimmed());
+        end();
+    }
+
     QString myShop;
     QJsonObject myConditions;
+    VelAudit myAudit;
 };
 
 } // namespace
 
-QByteArray reportPage(const QString& theShop, const QString&)
+QByteArray reportPage(const QString& theShop, const QString& theAccount)
 {
-    return ReportPage(theShop).write();
+    return ReportPage(theShop, theAccount).write();
 }
