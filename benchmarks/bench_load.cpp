@@ -10,8 +10,10 @@
 #include <cstdint>
 #include <memory>
 
+#ifdef __GLIBC__
 #include <malloc.h>
 #include <unistd.h>
+#endif
 
 namespace {
 
@@ -92,12 +94,49 @@ const char* nextOn(VelProductStorage::Shelf theShelf)
     return static_cast<const char*>(next);
 }
 
+#ifdef __GLIBC__
+
+/// In bytes: what the heap has handed out.
+std::int64_t heapBytes()
+{
+    return static_cast<std::int64_t>(mallinfo2().uordblks) + static_cast<std::int64_t>(mallinfo2().hblkhd);
+}
+
+/// In bytes: the pages of the process that stand in memory now.
+std::int64_t residentBytes()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
+}
+
+void trimHeap()
+{
+    malloc_trim(0);
+}
+
+#else // no other C library tells in this way: the memory is shown as 0
+
+std::int64_t heapBytes()
+{
+    return 0;
+}
+
+std::int64_t residentBytes()
+{
+    return 0;
+}
+
+void trimHeap() {}
+
+#endif
+
 /// What the heap and the shelves hold now. The shelves count from any point: only a difference says anything.
 std::int64_t liveBytes()
 {
     using namespace VelProductStorage;
-    std::int64_t bytes =
-        static_cast<std::int64_t>(mallinfo2().uordblks) + static_cast<std::int64_t>(mallinfo2().hblkhd);
+    std::int64_t bytes = heapBytes();
     for (const Shelf shelf : {SHELF_MAIN_PRODUCTS, SHELF_ADD_ONS, SHELF_ARTICLES})
         bytes += reinterpret_cast<std::intptr_t>(nextOn(shelf));
     return bytes;
@@ -117,20 +156,11 @@ void liveMemory(benchmark::State& theState)
     theState.counters["of_file"] = live / file.bytes().size();
 }
 
-/// In bytes: the pages of the process that stand in memory now; 0 where the system doesn't tell.
-std::int64_t residentBytes()
-{
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
-}
-
 /// By how much the process grows by a load and so many reloads, in bytes for each byte of the file.
 void residentMemory(benchmark::State& theState, int theReloads)
 {
     const PriceListFile& file = PriceListFile::ofKeyAccount(countOf(theState));
-    malloc_trim(0); // what the making of the file left
+    trimHeap(); // what the making of the file left
     const std::int64_t before = residentBytes();
     std::unique_ptr<VelProductRegistry> registry;
     for (auto _ : theState) {
