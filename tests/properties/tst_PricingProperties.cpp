@@ -68,6 +68,8 @@ public:
 
     QString failure() const { return myFailure; }
 
+    QString printedBill() const { return text(linesOf(bill())) + text(amountsOf(bill(), couponsFor(bill()))); }
+
     void articlesCostWhatTheRulesSay()
     {
         for (const QDomElement& section : VelChildElements(myDocument)) {
@@ -330,6 +332,17 @@ private slots:
     void descriptionsUnfoldEveryPiece() { check(&Trial::descriptionsUnfoldEveryPiece); }
     void reloadsLeaveNoTrace() { check(&Trial::reloadsLeaveNoTrace, 4); }
     void couponsTakeOffNoMoreThanThereIs() { check(&Trial::couponsTakeOffNoMoreThanThereIs); }
+
+    /// Into the file that VELTARM_BILLS names, for tools/same-bills.
+    void printedBills()
+    {
+        QFile file(qEnvironmentVariable("VELTARM_BILLS"));
+        if (file.fileName().isEmpty())
+            return;
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        for (unsigned seed = 1; seed <= setting("VELTARM_SEEDS", 400); ++seed)
+            file.write(Trial(NastyShop(seed)).printedBill().toUtf8() + '\n');
+    }
 };
 
 VEL_TEST_MAIN(PricingPropertiesTest)
