@@ -27,7 +27,10 @@ set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "pricing library of an ordering applicat
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libveltarm-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${library_package} (= ${PROJECT_VERSION}), qtbase5-dev (>= 5.15), libexpat1-dev")
+set(qt5_package qtbase5-dev)
+set(qt6_package qt6-base-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+    "${library_package} (= ${PROJECT_VERSION}), ${qt${VELTARM_QT}_package} (>= ${VELTARM_QT_MINIMUM}), libexpat1-dev")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
     "pricing library for photo products - development files\n${about}
 This package holds the headers, the static library and the CMake package.")
