@@ -83,15 +83,26 @@ VelProductAbstract* VelProductFactory::build(const QDomElement& theElement) cons
 
 VelProductAbstract* VelProductFactory::buildAddOn(const QDomElement& theElement) const
 {
-    const QString productClass = text(theElement, STR_PRODUCT_CLASS);
-    if (productClass.isEmpty() || myExcludedProductClasses.match(productClass).hasMatch())
-        return nullptr;
-    return buildContent(theElement);
+    return isBuiltProductClass(text(theElement, STR_PRODUCT_CLASS)) ? buildContent(theElement) : nullptr;
+}
+
+bool VelProductFactory::isBuiltProductClass(const QString& theProductClass) const
+{
+    return !theProductClass.isEmpty() && !myExcludedProductClasses.match(theProductClass).hasMatch();
+}
+
+bool VelProductFactory::isKnownId(VelProductArrangement theArrangement, const QString& theId) const
+{
+    if (theArrangement == PRODUCT_ARRANGEMENT_PHOTOBOOK)
+        return myFotoBookIds.match(theId).hasMatch();
+    return theArrangement != PRODUCT_ARRANGEMENT_CALENDAR || myCalendarIds.match(theId).hasMatch();
 }
 
 VelProductAbstract* VelProductFactory::buildArticle(const QDomElement& theElement) const
 {
-    switch (EnumHelper::decodeProductArrangement(text(theElement, STR_ARRANGEMENT))) {
+    const VelProductArrangement arrangement = EnumHelper::decodeProductArrangement(text(theElement, STR_ARRANGEMENT));
+    const bool isKnown = isKnownId(arrangement, text(theElement, STR_ID));
+    switch (arrangement) {
     case PRODUCT_ARRANGEMENT_TRIVIAL:
         return buildFoto(theElement);
     case PRODUCT_ARRANGEMENT_GIFT:
@@ -99,12 +110,12 @@ VelProductAbstract* VelProductFactory::buildArticle(const QDomElement& theElemen
     case PRODUCT_ARRANGEMENT_CARD:
         return buildCard(theElement);
     case PRODUCT_ARRANGEMENT_PHOTOBOOK:
-        if (myFotoBookIds.match(text(theElement, STR_ID)).hasMatch())
+        if (isKnown)
             return buildFotoBook(theElement);
         warnOfUnlistedId(theElement, QStringLiteral("Fotobuch"));
         return nullptr;
     case PRODUCT_ARRANGEMENT_CALENDAR:
-        if (myCalendarIds.match(text(theElement, STR_ID)).hasMatch())
+        if (isKnown)
             return buildCalendar(theElement);
         warnOfUnlistedId(theElement, QStringLiteral("Kalender"));
         return nullptr;
