@@ -13,6 +13,7 @@ using Check = void (*)(const VelAuditShop&, VelAuditReport&);
 const Check CHECKS[] = {
     VelAuditChecks::checkReading,
     VelAuditChecks::checkDescription,
+    VelAuditChecks::checkMeaning,
 };
 
 } // namespace

@@ -12,6 +12,8 @@ namespace VelAuditChecks {
 void checkReading(const VelAuditShop& theShop, VelAuditReport& theReport);
 /// Elements, attributes and texts against the description of the documents.
 void checkDescription(const VelAuditShop& theShop, VelAuditReport& theReport);
+/// What the documents mean together: prices, references, fees, and what a customer will notice.
+void checkMeaning(const VelAuditShop& theShop, VelAuditReport& theReport);
 
 } // namespace VelAuditChecks
 

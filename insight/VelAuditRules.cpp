@@ -4,7 +4,7 @@
 
 const QVector<VelAuditRule>& VelAuditRules::all()
 {
-    static const QVector<VelAuditRule> rules = ofDocuments();
+    static const QVector<VelAuditRule> rules = ofDocuments() + ofShops();
     return rules;
 }
 

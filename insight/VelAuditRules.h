@@ -32,6 +32,7 @@ VELINSIGHT_EXPORT const VelAuditRule* find(const QString& theName);
 
 /// The tables: of what the documents say by themselves, and of what they mean for a shop.
 QVector<VelAuditRule> ofDocuments();
+QVector<VelAuditRule> ofShops();
 
 } // namespace VelAuditRules
 
