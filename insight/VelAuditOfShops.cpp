@@ -36,4 +36,6 @@ void VelAuditChecks::checkMeaning(const VelAuditShop& theShop, VelAuditReport& t
     checkFees(catalog, checkEntries(catalog, theReport), theReport);
     checkDuplicates(catalog, theShop, theReport);
     checkReferences(catalog, theReport);
+    checkSettings(catalog, theShop, theReport);
+    checkCoupons(catalog, theShop, theReport);
 }
