@@ -29,10 +29,12 @@ QList<QStringList> orderTexts(const VelTarmOrder& theOrder)
     return texts;
 }
 
-void printJson(const VelTarmOrder& theOrder, const VelshopBillSheet& theSheet, const QList<QStringList>& theOrderTexts,
-               QTextStream& theOutput)
+void printJson(const VelTarmOrder& theOrder, const VelshopBillSheet& theSheet, const QStringList& theNotes,
+               const QList<QStringList>& theOrderTexts, QTextStream& theOutput)
 {
     QJsonObject json = billData(theOrder, theSheet);
+    if (!theNotes.isEmpty())
+        json.insert(QStringLiteral("notes"), QJsonArray::fromStringList(theNotes));
     QJsonArray texts;
     for (const QStringList& lines : theOrderTexts)
         texts.append(QJsonArray::fromStringList(lines));
@@ -41,8 +43,11 @@ void printJson(const VelTarmOrder& theOrder, const VelshopBillSheet& theSheet, c
     theOutput << QJsonDocument(json).toJson();
 }
 
-void printText(const VelshopBillSheet& theSheet, const QList<QStringList>& theOrderTexts, QTextStream& theOutput)
+void printText(const VelshopBillSheet& theSheet, const QStringList& theNotes, const QList<QStringList>& theOrderTexts,
+               QTextStream& theOutput)
 {
+    for (const QString& note : theNotes)
+        theOutput << note << '\n';
     VelshopBillText::print(theSheet, theOutput);
     for (const QStringList& lines : theOrderTexts)
         theOutput << '\n' << lines.join(QLatin1Char('\n')) << '\n';
@@ -80,14 +85,17 @@ bool readBillArguments(const VelshopCommandLine& theLine, VelshopBillArguments& 
 {
     theArguments.myCart = theLine.words().at(0);
     theArguments.myHasOrderText = theLine.isSet(VelshopOptions::STR_ORDER_TEXT);
-    return theLine.readFileOption(VelshopOptions::STR_HTML, theArguments.myHtmlFile, theError) &&
+    return theArguments.myWhatIf.read(theLine, theError) &&
+           theLine.readFileOption(VelshopOptions::STR_HTML, theArguments.myHtmlFile, theError) &&
            theLine.readFileOption(VelshopOptions::STR_DISCOUNTS, theArguments.myDiscountsFile, theError);
 }
 
 int billCart(const VelshopBillArguments& theArguments, QTextStream& theOutput, VelshopError& theError)
 {
     VelshopCart cart;
-    if (!readCart(theArguments.myCart, cart, theError) || !areOutputsSafe(theArguments, cart, theError))
+    QStringList notes;
+    if (!readCart(theArguments.myCart, cart, theError) || !areOutputsSafe(theArguments, cart, theError) ||
+        !theArguments.myWhatIf.applyTo(cart, notes, theError))
         return EXIT_BAD_INPUT;
     const std::optional<VelTarmOrder> order = makeOrder(cart, theError);
     VelshopBillSheet sheet;
@@ -96,9 +104,9 @@ int billCart(const VelshopBillArguments& theArguments, QTextStream& theOutput, V
         return EXIT_BAD_INPUT;
     const QList<QStringList> texts = theArguments.myHasOrderText ? orderTexts(*order) : QList<QStringList>();
     if (theArguments.myIsJson)
-        printJson(*order, sheet, texts, theOutput);
+        printJson(*order, sheet, notes, texts, theOutput);
     else
-        printText(sheet, texts, theOutput);
+        printText(sheet, notes, texts, theOutput);
     if (sheet.isOrderable())
         return EXIT_DONE;
     theError = {cart.myFile, 0, 0, QStringLiteral("not orderable: ") + sheet.myProblems.join(QStringLiteral("; "))};

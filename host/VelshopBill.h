@@ -3,6 +3,7 @@
 
 #include "host/VelshopArguments.h"
 #include "host/VelshopError.h"
+#include "host/VelshopWhatIf.h"
 
 class QTextStream;
 class VelshopCommandLine;
@@ -14,6 +15,7 @@ struct VelshopBillArguments : VelshopArguments
     QString myHtmlFile;      ///< page to write, empty for none
     QString myDiscountsFile; ///< description of discounts to write, empty for none
     bool myHasOrderText = false;
+    VelshopWhatIf myWhatIf; ///< what is other than in the cart
 };
 
 bool readBillArguments(const VelshopCommandLine& theLine, VelshopBillArguments& theArguments, VelshopError& theError);

@@ -14,6 +14,7 @@
 #include "host/VelshopShop.h"
 #include "host/VelshopTypes.h"
 #include "host/VelshopUnit.h"
+#include "host/VelshopWhatIf.h"
 
 using namespace VelshopOptions;
 
@@ -76,7 +77,7 @@ const QVector<VelshopCommand>& VelshopCommands::all()
         {"bill",
          "CART",
          {},
-         {STR_HTML, STR_DISCOUNTS, STR_ORDER_TEXT},
+         VelshopWhatIf::options() + QStringList{STR_HTML, STR_DISCOUNTS, STR_ORDER_TEXT},
          shared(),
          OPENS_ACCOUNT,
          "the bills of a cart, one for each shipping group, and the order's totals",
@@ -88,6 +89,9 @@ const QVector<VelshopCommand>& VelshopCommands::all()
          "choice "
          "without them), \"express\" (\"0\", \"1\" or \"2\"), and \"coupon\" (a file, relative to the cart) with "
          "\"couponId\".\n"
+         "With the options of a choice the cart is billed as if it were ordered so; without --payment its payment "
+         "stays "
+         "where the order way permits it.\n"
          "An order that can't be placed is billed as far as it goes, and has no description of its discounts.\n"
          "A regular FILE is replaced as a whole or stays as it was; a device or a pipe is written directly. A FILE "
          "that is "
@@ -117,15 +121,17 @@ const QVector<VelshopCommand>& VelshopCommands::all()
          "velshop report --html shop.html",
          readAndRun(readReportArguments, reportShop)},
         {"explain",
-         "ARTICLE COUNT",
+         "CART|ARTICLE [COUNT]",
          {},
-         {STR_SOURCE, STR_DELIVERY, STR_LEVEL, STR_ALL},
+         VelshopWhatIf::options() + QStringList{STR_LEVEL, STR_ALL, STR_COMPARE, STR_HTML},
          shared(),
          OPENS_ACCOUNT,
-         "why so many pieces cost what they do, or have no price, down to the places in the documents",
-         "For each amount it names the discount model that was taken and why, the band that was reached and how far the "
-         "next one is. Each place is told as file:line:column.",
-         "velshop explain 131 80 --source CD",
+         "why a cart, or so many pieces of an article, cost what they do, down to the places in the documents",
+         "For each amount it names the discount model that was taken and why, the band that was reached and how far "
+         "the "
+         "next one is; for a missing price what would have one. Each place is told as file:line:column. With the "
+         "options of a choice the cart is explained as if it were ordered so.",
+         "velshop explain cart.json --source CD --compare",
          readAndRun(readExplainArguments, explain)},
         {"shop",
          "",

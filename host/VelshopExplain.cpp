@@ -1,28 +1,168 @@
 #include "host/VelshopExplain.h"
 
 #include "frame/VelTarmStatus.h"
+#include "host/VelshopAccount.h"
 #include "host/VelshopArticle.h"
+#include "host/VelshopCart.h"
 #include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
+#include "host/VelshopExplainCompare.h"
 #include "host/VelshopExplainData.h"
+#include "host/VelshopExplainHtml.h"
 #include "host/VelshopExplainText.h"
 #include "host/VelshopOptions.h"
+#include "host/VelshopOrder.h"
+#include "host/VelshopOutputFile.h"
+#include "host/VelshopProblems.h"
 #include "host/VelshopWords.h"
 #include "insight/VelPriceExplainer.h"
+#include "price/VelTarmPriceView.h"
 #include "product/VelProductAbstract.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QTextStream>
 
+#include <optional>
+
 namespace {
 
-void print(const VelPriceExplanation& theExplanation, const QString& theHead,
-           const VelshopExplainArguments& theArguments, QTextStream& theOutput)
+/// What is printed, and to what it is compared.
+struct Answer
 {
-    if (theArguments.myIsJson)
-        theOutput << QJsonDocument(explanationData(theExplanation)).toJson();
-    else
-        printExplanation(theExplanation, theHead, theArguments.myIsAll, theOutput);
+    QString myHead;
+    QStringList myNotes;
+    VelPriceExplanation myExplanation;
+    std::optional<VelPriceExplanation> myBefore;
+    QStringList myInputs;
+};
+
+/// The library's amounts wrap around; at a desk an amount that no int can hold is not to be believed.
+bool isTooLarge(const VelProductAbstract& theProduct, const VelOrderSource& theSource, int theCount, int theLevel)
+{
+    const VelTarmPriceView view(theProduct, theSource);
+    qint64 sum = 0;
+    for (const VelTarmPriceCharge& charge : view.best(theCount, 0, theLevel))
+        sum += static_cast<qint64>(charge.myUnits) * charge.myBand->price();
+    return !VelTarmOrderAmounts::fits(sum);
+}
+
+bool explainArticle(const VelshopExplainArguments& theArguments, Answer& theAnswer, VelshopError& theError)
+{
+    const VelProductAbstract* product = findArticle(theArguments.myArticle, theError);
+    VelOrderSource source = VelOrderSource::onlineMailOrder();
+    if (!product || !theArguments.myWhatIf.source().complete(source, theError))
+        return false;
+    theAnswer.myHead = QStringLiteral("By ") + VelshopWords::orderSource(source);
+    if (isTooLarge(*product, source, theArguments.myCount, theArguments.myLevel)) {
+        theError = QStringLiteral("%1, %2 pieces: the amount is beyond what 32 bits of cents can hold")
+                       .arg(product->name(), QString::number(theArguments.myCount));
+        return false;
+    }
+    VelTarmStatus status;
+    status.setOrderSource(source);
+    theAnswer.myExplanation = VelPriceExplainer().price(*product, status.priceKey(), theArguments.myCount, nullptr,
+                                                        nullptr, 0, theArguments.myLevel);
+    return true;
+}
+
+QStringList couponFiles(const VelshopCart& theCart)
+{
+    return theCart.myCouponFile.isEmpty() ? QStringList() : QStringList{theCart.myCouponFile};
+}
+
+/// What stands against the order is no part of its amounts, but counts for its coupons.
+bool explainOrder(const VelshopCart& theCart, VelPriceExplanation& theExplanation, QStringList& theNotes,
+                  VelshopError& theError)
+{
+    const std::optional<VelTarmOrder> order = makeOrder(theCart, theError);
+    if (!order)
+        return false;
+    theExplanation = VelPriceExplainer(couponFiles(theCart)).order(*order);
+    for (const QString& problem : VelshopProblems::texts(order->objections(), *order))
+        theNotes.append(QStringLiteral("not orderable: ") + problem);
+    return true;
+}
+
+bool explainCart(const VelshopExplainArguments& theArguments, Answer& theAnswer, VelshopError& theError)
+{
+    VelshopCart cart;
+    if (!readCart(theArguments.myCart, cart, theError))
+        return false;
+    theAnswer.myInputs = QStringList{cart.myFile} + couponFiles(cart);
+    QStringList notesBefore;
+    if (theArguments.myIsComparison && !explainOrder(cart, theAnswer.myBefore.emplace(), notesBefore, theError))
+        return false;
+    if (!theArguments.myWhatIf.applyTo(cart, theAnswer.myNotes, theError))
+        return false;
+    theAnswer.myHead = QStringLiteral("By %1; payment %2; %3")
+                           .arg(VelshopWords::orderSource(cart.myStatus.orderSource()),
+                                QString::number(cart.myStatus.payment()), VelshopWords::express(cart.myExpress));
+    return explainOrder(cart, theAnswer.myExplanation, theAnswer.myNotes, theError);
+}
+
+void printJson(const Answer& theAnswer, QTextStream& theOutput)
+{
+    QJsonObject json = explanationData(theAnswer.myExplanation);
+    if (!theAnswer.myNotes.isEmpty())
+        json.insert(QStringLiteral("notes"), QJsonArray::fromStringList(theAnswer.myNotes));
+    if (theAnswer.myBefore)
+        json.insert(QStringLiteral("comparison"), comparisonData(*theAnswer.myBefore, theAnswer.myExplanation));
+    theOutput << QJsonDocument(json).toJson();
+}
+
+void printText(const Answer& theAnswer, bool theIsAll, QTextStream& theOutput)
+{
+    const QString head = (QStringList{theAnswer.myHead} + theAnswer.myNotes).join(QLatin1Char('\n'));
+    if (theAnswer.myBefore) {
+        theOutput << head << '\n';
+        printComparison(*theAnswer.myBefore, theAnswer.myExplanation, theOutput);
+    } else {
+        printExplanation(theAnswer.myExplanation, head, theIsAll, theOutput);
+    }
+}
+
+bool writePage(const VelshopExplainArguments& theArguments, const Answer& theAnswer, VelshopError& theError)
+{
+    if (theArguments.myHtmlFile.isEmpty())
+        return true;
+    const QStringList inputs = accountDocuments(theArguments.myAccount) + theAnswer.myInputs;
+    return VelshopOutputFile::areSafe({theArguments.myHtmlFile}, inputs, theError) &&
+           VelshopOutputFile::write(theArguments.myHtmlFile,
+                                    explanationPage(theAnswer.myExplanation, theAnswer.myHead, theAnswer.myNotes),
+                                    theError);
+}
+
+QString unpriced(const VelPriceExplanation& theExplanation)
+{
+    QStringList names;
+    for (const VelExplainedTerm& term : theExplanation.terms())
+        if (!term.myHasPrice)
+            names.append(termText(term));
+    return names.join(QStringLiteral("; ")) + QStringLiteral(": no price");
+}
+
+/// What belongs to carts alone, or to articles alone, is refused elsewhere: it would do nothing.
+bool fitTogether(const VelshopCommandLine& theLine, const VelshopExplainArguments& theArguments, VelshopError& theError)
+{
+    const bool isCart = !theArguments.myCart.isEmpty();
+    if (isCart && theLine.isSet(VelshopOptions::STR_LEVEL))
+        theError = QStringLiteral("--level goes with an article: in a cart the main products say it");
+    else if (!isCart && (theArguments.myIsComparison || theArguments.myWhatIf.isMoreThanSource()))
+        theError = QStringLiteral("--payment, --express, --no-coupon and --compare go with a cart");
+    else if (theArguments.myIsComparison && !theArguments.myWhatIf.isAny())
+        theError = QStringLiteral("--compare needs something that is other than in the cart, such as --source");
+    return theError.isEmpty();
+}
+
+bool readWords(const QStringList& theWords, VelshopExplainArguments& theArguments, VelshopError& theError)
+{
+    if (theWords.size() == 1)
+        theArguments.myCart = theWords.first();
+    return theWords.size() == 1 ||
+           (VelshopCommandLine::readNumber(theWords.at(0), QStringLiteral("ARTICLE"), VelshopCommandLine::LOWEST_ID,
+                                           theArguments.myArticle, theError) &&
+            VelshopCommandLine::readNumber(theWords.at(1), QStringLiteral("COUNT"), 1, theArguments.myCount, theError));
 }
 
 } // namespace
@@ -31,29 +171,26 @@ bool readExplainArguments(const VelshopCommandLine& theLine, VelshopExplainArgum
                           VelshopError& theError)
 {
     theArguments.myIsAll = theLine.isSet(VelshopOptions::STR_ALL);
-    return VelshopCommandLine::readNumber(theLine.words().at(0), QStringLiteral("ARTICLE"),
-                                          VelshopCommandLine::LOWEST_ID, theArguments.myArticle, theError) &&
-           VelshopCommandLine::readNumber(theLine.words().at(1), QStringLiteral("COUNT"), 1, theArguments.myCount,
-                                          theError) &&
+    theArguments.myIsComparison = theLine.isSet(VelshopOptions::STR_COMPARE);
+    return readWords(theLine.words(), theArguments, theError) &&
            theLine.readNumberOption(VelshopOptions::STR_LEVEL, 0, theArguments.myLevel, theError) &&
-           theArguments.mySource.read(theLine, theError);
+           theLine.readFileOption(VelshopOptions::STR_HTML, theArguments.myHtmlFile, theError) &&
+           theArguments.myWhatIf.read(theLine, theError) && fitTogether(theLine, theArguments, theError);
 }
 
 int explain(const VelshopExplainArguments& theArguments, QTextStream& theOutput, VelshopError& theError)
 {
-    const VelProductAbstract* product = findArticle(theArguments.myArticle, theError);
-    VelOrderSource source = VelOrderSource::onlineMailOrder();
-    if (!product || !theArguments.mySource.complete(source, theError))
+    Answer answer;
+    const bool isExplained = theArguments.myCart.isEmpty() ? explainArticle(theArguments, answer, theError)
+                                                           : explainCart(theArguments, answer, theError);
+    if (!isExplained || !writePage(theArguments, answer, theError))
         return EXIT_BAD_INPUT;
-    VelTarmStatus status;
-    status.setOrderSource(source);
-    const VelPriceExplanation explanation = VelPriceExplainer().price(*product, status.priceKey(), theArguments.myCount,
-                                                                      nullptr, nullptr, 0, theArguments.myLevel);
-    print(explanation, QStringLiteral("By ") + VelshopWords::orderSource(source), theArguments, theOutput);
-    if (explanation.hasPrice())
+    if (theArguments.myIsJson)
+        printJson(answer, theOutput);
+    else
+        printText(answer, theArguments.myIsAll, theOutput);
+    if (answer.myExplanation.hasPrice())
         return EXIT_DONE;
-    theError = QStringLiteral("%1 %2, %3 pieces by %4: no price")
-                   .arg(QString::number(product->articleID()), product->name(), QString::number(theArguments.myCount),
-                        VelshopWords::orderSource(source));
+    theError = unpriced(answer.myExplanation);
     return EXIT_NO_PRICE;
 }

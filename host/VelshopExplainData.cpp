@@ -65,7 +65,7 @@ QJsonObject toJson(const VelExplainedTerm& theTerm)
 {
     QJsonObject json{{QStringLiteral("kind"), kindWord(theTerm.myKind)},
                      {QStringLiteral("group"), theTerm.myGroup},
-                     {QStringLiteral("article"), orNull(theTerm.myArticle != 0, theTerm.myArticle)},
+                     {QStringLiteral("article"), articleData(theTerm)},
                      {QStringLiteral("name"), theTerm.myName},
                      {QStringLiteral("count"), theTerm.myCount},
                      {QStringLiteral("amount"), orNull(theTerm.myHasPrice, theTerm.myAmount)},
@@ -79,6 +79,12 @@ QJsonObject toJson(const VelExplainedTerm& theTerm)
 }
 
 } // namespace
+
+QJsonValue articleData(const VelExplainedTerm& theTerm)
+{
+    const bool hasArticle = theTerm.myKind != VelExplainedTerm::COUPON && theTerm.myKind != VelExplainedTerm::FLOOR;
+    return orNull(hasArticle, theTerm.myArticle);
+}
 
 QString kindWord(VelExplainedTerm::Kind theKind)
 {

@@ -2,6 +2,7 @@
 
 #include "host/VelshopExplainData.h"
 #include "host/VelshopWords.h"
+#include "ordering/VelTarmShippingGroupManager.h"
 
 #include <QTextStream>
 
@@ -12,6 +13,11 @@ const int WIDTH = 80;
 QString spaces(int theCount)
 {
     return QString(theCount, QLatin1Char(' '));
+}
+
+QString pieces(int theCount)
+{
+    return QString::number(theCount) + (theCount == 1 ? QStringLiteral(" piece") : QStringLiteral(" pieces"));
 }
 
 /// In lines of the terminal's width, the following ones two further in.
@@ -80,10 +86,16 @@ QString termText(const VelExplainedTerm& theTerm)
         text += QStringLiteral("%1 ").arg(theTerm.myArticle);
     text += theTerm.myName;
     if (theTerm.myKind == VelExplainedTerm::ITEM)
-        text += QStringLiteral(", %1 %2")
-                    .arg(theTerm.myCount)
-                    .arg(theTerm.myCount == 1 ? QStringLiteral("piece") : QStringLiteral("pieces"));
+        text += QStringLiteral(", ") + pieces(theTerm.myCount);
     return text.trimmed();
+}
+
+QString groupText(int theGroup)
+{
+    return QStringLiteral("Shipping group %1 %2")
+        .arg(theGroup)
+        .arg(VelTarmShippingGroupManager::instance()->shippingGroupName(theGroup))
+        .trimmed();
 }
 
 QString amountText(bool theHasPrice, qint64 theAmount)
@@ -109,7 +121,7 @@ QString candidateText(const VelExplainedCandidate& theCandidate)
 QString needText(const VelExplainedNeed& theNeed)
 {
     QString text =
-        QStringLiteral("%1 from %2 on").arg(VelshopWords::orderSource(theNeed.myOrderSource)).arg(theNeed.myFrom);
+        QStringLiteral("%1 from %2 on").arg(VelshopWords::orderSource(theNeed.myOrderSource), pieces(theNeed.myFrom));
     if (theNeed.myLevel != 0)
         text += QStringLiteral(" with a main product of level %1").arg(theNeed.myLevel);
     return text;
@@ -131,8 +143,13 @@ void printExplanation(const VelPriceExplanation& theExplanation, const QString& 
                       QTextStream& theOutput)
 {
     theOutput << theHead << '\n';
-    for (const VelExplainedTerm& term : theExplanation.terms())
+    const VelExplainedTerm* former = nullptr;
+    for (const VelExplainedTerm& term : theExplanation.terms()) {
+        if (!former || former->myGroup != term.myGroup)
+            theOutput << groupText(term.myGroup) << '\n';
         printTerm(term, theIsAll, theOutput);
+        former = &term;
+    }
     if (theExplanation.terms().size() != 1)
         printAmount(QStringLiteral("total"), amountText(theExplanation.hasPrice(), theExplanation.total()), theOutput);
 }

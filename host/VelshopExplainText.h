@@ -16,6 +16,9 @@ void printExplanation(const VelPriceExplanation& theExplanation, const QString& 
 /// As "2 Roll bundle M, 80 pieces".
 QString termText(const VelExplainedTerm& theTerm);
 
+/// As "Shipping group 1 Prints".
+QString groupText(int theGroup);
+
 /// As "4.62 €", "no price" where there is none.
 QString amountText(bool theHasPrice, qint64 theAmount);
 

@@ -36,6 +36,10 @@ const QVector<VelshopOption>& VelshopOptions::all()
         {STR_RULES, QString(), QStringLiteral("List the rules, each with its severity and a sentence.")},
         {STR_ORDER_TEXT, QString(), QStringLiteral("Print the order-text lines of each product, too.")},
         {STR_ALL, QString(), QStringLiteral("Print every candidate, and every place in the documents.")},
+        {STR_PAYMENT, QStringLiteral("N"), QStringLiteral("This payment in place of the cart's.")},
+        {STR_EXPRESS, QStringLiteral("0|1|2"), QStringLiteral("This express type in place of the cart's.")},
+        {STR_NO_COUPON, QString(), QStringLiteral("Leave the cart's coupon out.")},
+        {STR_COMPARE, QString(), QStringLiteral("Print what that changes of the cart, amount by amount.")},
     };
     return options;
 }

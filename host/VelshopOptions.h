@@ -43,6 +43,10 @@ inline const QString STR_SVG = QStringLiteral("svg");
 inline const QString STR_RULES = QStringLiteral("rules");
 inline const QString STR_ORDER_TEXT = QStringLiteral("order-text");
 inline const QString STR_ALL = QStringLiteral("all");
+inline const QString STR_PAYMENT = QStringLiteral("payment");
+inline const QString STR_EXPRESS = QStringLiteral("express");
+inline const QString STR_NO_COUPON = QStringLiteral("no-coupon");
+inline const QString STR_COMPARE = QStringLiteral("compare");
 
 const QVector<VelshopOption>& all();
 

@@ -12,11 +12,11 @@ bool isOnSite(const VelOrderSource& theSource)
     return theSource.inputSource() == INPUT_SOURCE_KIOSK || theSource.deliveryType() == DELIVERY_TYPE_ON_SITE;
 }
 
-/// A kiosk and delivery on site bring each other along; where the starting choice is on site or wild, the net and mail
+/// A kiosk and delivery on site bring each other along; where the other choice is on site or wild, the net and mail
 /// order take its place.
-VelOrderSource completed(const VelOrderSource& theNamed)
+VelOrderSource completed(const VelOrderSource& theNamed, const VelOrderSource& theOther)
 {
-    VelOrderSource other = VelTarmGlobalStatus::instance()->orderSource();
+    VelOrderSource other = theOther;
     if (isOnSite(theNamed))
         other = VelOrderSource::kioskOnSite();
     else if (isOnSite(other) || other.inputSource() < 0 || other.deliveryType() < 0)
@@ -46,8 +46,13 @@ bool VelshopSourceChoice::isNamed() const
 
 bool VelshopSourceChoice::complete(VelOrderSource& theSource, VelshopError& theError) const
 {
-    theSource = isNamed() ? completed(VelOrderSource(myInputSource, myDeliveryType))
-                          : VelTarmGlobalStatus::instance()->orderSource();
+    return complete(theSource, VelTarmGlobalStatus::instance()->orderSource(), theError);
+}
+
+bool VelshopSourceChoice::complete(VelOrderSource& theSource, const VelOrderSource& theOther,
+                                   VelshopError& theError) const
+{
+    theSource = isNamed() ? completed(VelOrderSource(myInputSource, myDeliveryType), theOther) : theOther;
     if (!theSource.isValid())
         theError = QStringLiteral("KIOSK and ONSITE go together and with nothing else");
     return theError.isEmpty();

@@ -19,6 +19,8 @@ public:
     /// The halves that are named, completed by the shop's starting choice. False, with the error, for two that don't go
     /// together.
     bool complete(VelOrderSource& theSource, VelshopError& theError) const;
+    /// The same, completed by another choice.
+    bool complete(VelOrderSource& theSource, const VelOrderSource& theOther, VelshopError& theError) const;
 
 private:
     /// INPUT_SOURCE_ANY and DELIVERY_TYPE_ANY leave the choice open.

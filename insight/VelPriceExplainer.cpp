@@ -31,9 +31,13 @@ VelPriceExplanation VelPriceExplainer::price(const VelProductAbstract& theProduc
     return {{term}, term.myAmount};
 }
 
-VelPriceExplanation VelPriceExplainer::bill(const VelTarmBill& theBill) const
+VelPriceExplanation VelPriceExplainer::bill(const VelTarmBill& theBill, const VelCoupon* theCoupon) const
 {
-    return {VelBillExplainer(theBill, *mySources).terms({}, 0), theBill.totalFinalCost(0)};
+    QVector<VelExplainedTerm> coupons;
+    const int share = theCoupon && theCoupon->isValid() ? theCoupon->discountForOrder(theBill, 0) : 0;
+    if (theCoupon)
+        coupons.append(VelCouponExplainer(theBill, *mySources).term(*theCoupon, {0, share, 0, true}));
+    return {VelBillExplainer(theBill, *mySources).terms(coupons, share), theBill.totalFinalCost(share)};
 }
 
 VelPriceExplanation VelPriceExplainer::order(const VelTarmOrder& theOrder) const

@@ -10,6 +10,7 @@
 
 #include <memory>
 
+class VelCoupon;
 class VelExplanationSources;
 class VelOrderStatistic;
 class VelProductAbstract;
@@ -46,8 +47,9 @@ public:
                               const VelTarmBill* theBill = nullptr, const VelOrderStatistic* theStatistic = nullptr,
                               int theBillingSum = 0, int theInheritedLevel = LEVEL_OF_BILL) const;
 
-    /// Every amount of a bill without coupons: what the terms charge adds up to VelTarmBill::totalFinalCost(0).
-    VelPriceExplanation bill(const VelTarmBill& theBill) const;
+    /// Every amount of a bill. What the terms charge adds up to VelTarmBill::totalFinalCost() with the coupon, which
+    /// may be null and takes off what VelCoupon::discountForOrder says; one that isn't valid takes nothing.
+    VelPriceExplanation bill(const VelTarmBill& theBill, const VelCoupon* theCoupon = nullptr) const;
 
     /// Every amount of an order, bill after bill, with its coupons.
     VelPriceExplanation order(const VelTarmOrder& theOrder) const;

@@ -9,6 +9,8 @@
 #include <QString>
 #include <QVector>
 
+#include <utility>
+
 /// A discount model of the article, and what became of it.
 struct VelExplainedCandidate
 {
@@ -75,7 +77,9 @@ public:
 
     /// Of a bill the articles first, then shipping, payment, coupons, express and floor. What each charges adds up to
     /// the bill's total.
-    const QVector<VelExplainedTerm>& terms() const { return myTerms; }
+    const QVector<VelExplainedTerm>& terms() const& { return myTerms; }
+    /// The same of an explanation that nobody keeps, so that a loop may run over them.
+    QVector<VelExplainedTerm> terms() && { return std::move(myTerms); }
 
     /// -1 where any term has no price.
     qint64 total() const { return hasPrice() ? myTotal : -1; }

@@ -10,6 +10,7 @@
 #include "product/VelProductAddOn.h"
 #include "product/VelProductRegistry.h"
 
+#include <algorithm>
 #include <functional>
 
 namespace {
@@ -53,7 +54,10 @@ VelInheritedLevel inheritedLevel(const VelProductAbstract& theProduct, const Vel
 
 void tellInheritance(VelExplainedTerm& theTerm, const VelInheritedLevel& theInherited)
 {
-    if (theInherited.myMainProduct)
+    const auto inherits = [](const VelExplainedCandidate& theCandidate) {
+        return theCandidate.myIsTaken && theCandidate.myModel == DISCOUNT_MODEL_INHERITED_DISCOUNT;
+    };
+    if (theInherited.myMainProduct && std::any_of(theTerm.myCandidates.cbegin(), theTerm.myCandidates.cend(), inherits))
         theTerm.myReason +=
             QStringLiteral("; inherits level %1 of %2")
                 .arg(QString::number(theInherited.myLevel), VelPriceWords::product(*theInherited.myMainProduct));

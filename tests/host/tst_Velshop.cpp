@@ -46,6 +46,10 @@ private slots:
             in English              | bill shop/carts/small.json --language en | (Rechnung); Standard production and standard shipping
             list of a group         | list --group 31                  | 3101;  no
             list of another source  | list --source CD                 | BY CD, MAIL; 1,99 €    yes        yes
+            why a package           | explain 131 80                   | 1 x 990; package: it wins at once; 21 more reach; pricelist.xml:340:56: price="990"
+            why an inherited price  | explain 5002 6 --level 1 --all   | inherited discount, level 1, 3 to 9: 13,74 €; type="I"; compared:
+            another way to order    | explain shop/carts/showcase.json --delivery POS --compare | payment 8 can't be chosen by NET, POS; payment 0 is taken; Versand Fotobücher (group 4); -5,95 €; not orderable
+            a bill of another way   | bill shop/carts/showcase.json --source CD --payment 3 --express 0 --no-coupon | Order by CD, MAIL; payment 3 (Rechnung); Standard
         )");
     }
 
@@ -57,6 +61,22 @@ private slots:
         QCOMPARE(answer.exitCode, 0);
         for (const QString& text : cell("expected").split("; "))
             QVERIFY2(answer.output.contains(text.toUtf8()), answer.output);
+    }
+
+    /// The amounts add up, or the total is null and the explanation is there all the same.
+    void explanationAsJson()
+    {
+        const VelshopAnswer priced = velshop({"explain", "shop/carts/showcase.json", "--json"});
+        const QJsonObject json = QJsonDocument::fromJson(priced.output).object();
+        int sum = 0;
+        for (const QJsonValue& term : json["terms"].toArray())
+            sum += term.toObject()["amount"].toInt();
+        QCOMPARE(sum, json["total"].toInt(-1));
+        const VelshopAnswer unpriced = velshop({"explain", "shop/carts/unpriced.json", "--json"});
+        QCOMPARE(unpriced.exitCode, 1);
+        const QJsonObject explanation = QJsonDocument::fromJson(unpriced.output).object();
+        QVERIFY(explanation["total"].isNull());
+        QCOMPARE(explanation["terms"].toArray()[1].toObject()["needs"].toArray().size(), 2);
     }
 
     void refusals_data()
@@ -78,6 +98,13 @@ private slots:
             curve 103 --to 100001                       | 2        | 100000
             curve 103 --by weight                       | 2        | "weight"
             curve 11007                                 | 1        | charged by the products
+            explain 103                                 | 2        | 103: can't be read
+            explain 103 2147483647                      | 2        | beyond
+            explain 103 1 --compare                     | 2        | go with a cart
+            explain shop/carts/small.json --compare     | 2        | needs something
+            explain shop/carts/small.json --level 1     | 2        | goes with an article
+            explain shop/carts/small.json --payment 77  | 2        | 77 can't be chosen
+            explain shop/carts/small.json --express 7   | 2        | must be 0, 1 or 2
             bands                                       | 2        | bands takes 1 argument behind
             bands 99                                    | 2        | 99
             unit 103 --pages 10                         | 2        | pages: belongs to books and calendars alone
