@@ -17,7 +17,7 @@ enum Kind { FEE_TRANSFER, FEE_PAYMENT, FEE_EXPRESS };
 /// A fee as the registry has it.
 struct Fee
 {
-    Kind myKind;
+    Kind myKind;                   ///< what it is for
     VelProductAbstract* myProduct; ///< the registry's; null where a payment that is offered has no fee
     int myGroup;                   ///< the shipping group of a transfer or an express; of no meaning for a payment
     VelPaymentType myPayment;      ///< of a payment fee, PAYMENT_TYPE_UNKNOWN for all others
