@@ -12,11 +12,18 @@
 
 namespace {
 
+/// A cart would wrap around, and too many pieces become a few.
+int sumOf(qint64 theLeft, qint64 theRight)
+{
+    const qint64 lowest = std::numeric_limits<int>::min();
+    return static_cast<int>(qBound(lowest, theLeft + theRight, qint64(std::numeric_limits<int>::max())));
+}
+
 VelOrderStatistic cartOf(const QList<VelTarmOrder::Item>& theItems)
 {
     VelOrderStatistic cart;
     for (const VelTarmOrder::Item& item : theItems)
-        cart.add(item.first, item.second);
+        cart.insert(item.first, sumOf(cart.value(item.first, 0), item.second));
     return cart;
 }
 

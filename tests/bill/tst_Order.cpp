@@ -118,6 +118,7 @@ private slots:
             one too many               | 40x31 41x40    | 0 | 3  | limit in 4 31 > 30
             payment not permitted      | 2x1            | 0 | 14 | payment 14
             items beyond 32 bits       | 20x2           | 0 | 3  | amount in 2
+            pieces beyond 32 bits      | 2x2147483647 2x2147483647 2x5 | 0 | 3  | amount in 1
             shipping beyond 32 bits    | 22x3           | 0 | 3  | amount in 2
         )");
     }
