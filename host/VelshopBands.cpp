@@ -21,7 +21,15 @@ struct PriceInBand
 {
     const VelProductAbstract* myProduct;
     int myPrice;
+
+    /// What can't be read is -1, which isn't sold.
+    bool hasPrice() const { return myPrice >= 0; }
 };
+
+QJsonValue orNull(const PriceInBand& thePrice)
+{
+    return thePrice.hasPrice() ? QJsonValue(thePrice.myPrice) : QJsonValue();
+}
 
 /// The products of the group that have exactly this band, with their prices in it.
 QList<PriceInBand> pricesIn(const VelDiscountLimit& theBand, int theGroup, const VelTarmPriceKey& theKey)
@@ -39,7 +47,7 @@ QJsonObject toJson(const VelDiscountLimit& theBand, const QList<PriceInBand>& th
     for (const PriceInBand& price : thePrices)
         prices.append(QJsonObject{{QStringLiteral("article"), price.myProduct->articleID()},
                                   {QStringLiteral("name"), price.myProduct->name()},
-                                  {QStringLiteral("price"), price.myPrice}});
+                                  {QStringLiteral("price"), orNull(price)}});
     QJsonObject json{
         {QStringLiteral("model"), VelshopWords::discountModel(theBand.discountModel())},
         {QStringLiteral("level"), theBand.level()},
@@ -55,7 +63,8 @@ void addRows(const VelDiscountLimit& theBand, const QList<PriceInBand>& thePrice
     for (const PriceInBand& price : thePrices)
         theTable.add({VelshopWords::discountModel(theBand.discountModel()), QString::number(theBand.level()),
                       VelshopWords::band(theBand), QString::number(price.myProduct->articleID()),
-                      price.myProduct->name(), VelshopWords::money(price.myPrice)});
+                      price.myProduct->name(),
+                      price.hasPrice() ? VelshopWords::money(price.myPrice) : QStringLiteral("-")});
 }
 
 } // namespace
