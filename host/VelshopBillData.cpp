@@ -3,8 +3,8 @@
 #include "bill/VelTarmOrder.h"
 #include "host/VelshopBillMoney.h"
 #include "host/VelshopBillSheet.h"
+#include "host/VelshopProblems.h"
 #include "host/VelshopWords.h"
-#include "ordering/VelOrderingDetails.h"
 #include "product/VelProductAbstract.h"
 
 #include <QJsonArray>
@@ -16,6 +16,7 @@ QJsonObject toJson(const VelshopBillLine& theLine)
     QJsonObject json{{QStringLiteral("article"), theLine.myArticle},
                      {QStringLiteral("product"), theLine.myProduct},
                      {QStringLiteral("pieces"), theLine.myPieces},
+                     {QStringLiteral("units"), theLine.myUnits},
                      {QStringLiteral("unitPrice"), theLine.myUnitPrice},
                      {QStringLiteral("package"), theLine.myIsPackage},
                      {QStringLiteral("model"), VelshopWords::discountModel(theLine.myModel)},
@@ -52,7 +53,7 @@ QJsonArray toJson(const QList<VelshopAdvice>& theAdvice)
     return cheaper;
 }
 
-QJsonObject toJson(const VelshopBillGroup& theGroup)
+QJsonObject toJson(const VelshopBillGroup& theGroup, const VelTarmOrderBill& theBill)
 {
     QJsonArray lines;
     for (const VelshopBillLine& line : theGroup.myLines)
@@ -62,6 +63,7 @@ QJsonObject toJson(const VelshopBillGroup& theGroup)
             {QStringLiteral("name"), theGroup.myName},
             {QStringLiteral("lines"), lines},
             {QStringLiteral("problems"), QJsonArray::fromStringList(theGroup.myProblems)},
+            {QStringLiteral("objections"), VelshopProblems::data(theBill.objections())},
             {QStringLiteral("cheaper"), toJson(theGroup.myAdvice)},
             {QStringLiteral("sums"), isOrderable ? QJsonValue(toJson(theGroup.mySums)) : QJsonValue()}};
 }
@@ -89,20 +91,22 @@ QJsonObject toJson(const VelshopBillCoupon& theCoupon)
 QJsonObject billData(const VelTarmOrder& theOrder, const VelshopBillSheet& theSheet)
 {
     QJsonArray groups;
-    for (const VelshopBillGroup& group : theSheet.myGroups)
-        groups.append(toJson(group));
+    for (int index = 0; index < theSheet.myGroups.size(); ++index)
+        groups.append(toJson(theSheet.myGroups.at(index), theOrder.bills().at(index)));
     const bool isOrderable = theSheet.isOrderable();
     const VelPaymentType payment = theOrder.status().payment();
-    const QString paymentName =
-        VelOrderingDetails::instance()->nameOfOrderingDetail(PAYMENT_CLASS_PAY_METHODS, payment);
+    const QString name = VelshopWords::paymentName(payment);
     QJsonObject json{
         {QStringLiteral("orderSource"), VelshopWords::orderSourceData(theOrder.status().orderSource())},
         {QStringLiteral("payment"),
-         QJsonObject{{QStringLiteral("type"), payment}, {QStringLiteral("name"), paymentName}}},
+         QJsonObject{{QStringLiteral("type"), payment},
+                     {QStringLiteral("name"), name.isNull() ? QJsonValue() : QJsonValue(name)}}},
         {QStringLiteral("express"), QString::number(theOrder.expressType().value() - ExpressableType_STANDARD)},
         {QStringLiteral("currency"), VelshopBillMoney::code(false)},
         {QStringLiteral("groups"), groups},
         {QStringLiteral("orderable"), isOrderable},
+        {QStringLiteral("problems"), QJsonArray::fromStringList(theSheet.myOrderProblems)},
+        {QStringLiteral("objections"), VelshopProblems::data(VelshopProblems::ofOrder(theOrder))},
         {QStringLiteral("sums"), isOrderable ? QJsonValue(toJson(theSheet.mySums)) : QJsonValue()}};
     if (theSheet.myCoupon)
         json.insert(QStringLiteral("coupon"), toJson(*theSheet.myCoupon));

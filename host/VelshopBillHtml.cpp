@@ -5,6 +5,7 @@
 #include "host/VelshopBillSheet.h"
 #include "host/VelshopBillWords.h"
 #include "host/VelshopPage.h"
+#include "host/VelshopProblems.h"
 
 #include <QRegularExpression>
 
@@ -128,9 +129,8 @@ private:
     void writeTotal()
     {
         text("h2", VelshopBillWords::tr("Gesamte Bestellung"));
-        for (const VelTarmOrderObjection& objection : myOrder.objections())
-            if (objection.myGroup == VelTarmOrderObjection::NO_GROUP)
-                text("p", VelshopBillWords::problem(objection), QStringLiteral("alarm"));
+        for (const VelTarmOrderObjection& objection : VelshopProblems::ofOrder(myOrder))
+            text("p", VelshopBillWords::problem(objection), QStringLiteral("alarm"));
         if (mySheet.isOrderable())
             writeSums(mySheet.mySums);
         else

@@ -5,7 +5,6 @@
 #include "host/VelshopBillMoney.h"
 #include "host/VelshopProblems.h"
 #include "host/VelshopWords.h"
-#include "ordering/VelOrderingDetails.h"
 #include "ordering/VelTarmShippingGroupManager.h"
 #include "product/VelProductAddOn.h"
 
@@ -31,10 +30,11 @@ QString daysOf(const VelProductAbstract& theProduct, const VelTarmOrder& theOrde
 VelshopBillLine lineOf(const VelTarmBillPositionAbstract& thePosition, const VelTarmOrder& theOrder)
 {
     const VelProductAbstract& product = *thePosition.product();
-    return {product.articleID(),      thePosition.productName(),   thePosition.countItems(),
-            thePosition.unitPrice(),  thePosition.nonOfferPrice(), thePosition.positionPrice(),
-            thePosition.isPackage(),  thePosition.discountModel(), thePosition.discountLevel(),
-            daysOf(product, theOrder)};
+    const bool isPackage = thePosition.isPackage() || thePosition.unitCount() != thePosition.countItems();
+    return {
+        product.articleID(),         thePosition.productName(),   thePosition.countItems(),    thePosition.unitCount(),
+        thePosition.unitPrice(),     thePosition.nonOfferPrice(), thePosition.positionPrice(), isPackage,
+        thePosition.discountModel(), thePosition.discountLevel(), daysOf(product, theOrder)};
 }
 
 QString groupName(int theId)
@@ -42,13 +42,19 @@ QString groupName(int theId)
     return VelTarmShippingGroupManager::instance()->shippingGroupName(theId);
 }
 
+QString paymentText(VelPaymentType thePayment)
+{
+    if (thePayment == PAYMENT_TYPE_UNKNOWN)
+        return QStringLiteral("no payment");
+    const QString name = VelshopWords::paymentName(thePayment);
+    return QStringLiteral("payment %1").arg(thePayment) + (name.isNull() ? name : QStringLiteral(" (%1)").arg(name));
+}
+
 QString headOf(const VelTarmOrder& theOrder)
 {
-    const VelPaymentType payment = theOrder.status().payment();
     const QString text =
-        QStringLiteral("%1; payment %2 (%3); ")
-            .arg(VelshopWords::orderSource(theOrder.status().orderSource()), QString::number(payment),
-                 VelOrderingDetails::instance()->nameOfOrderingDetail(PAYMENT_CLASS_PAY_METHODS, payment));
+        QStringLiteral("%1; %2; ")
+            .arg(VelshopWords::orderSource(theOrder.status().orderSource()), paymentText(theOrder.status().payment()));
     return text + (theOrder.hasExpress() ? VelshopWords::express(theOrder.expressType())
                                          : theOrder.expressType().humanReadableName());
 }
@@ -104,6 +110,7 @@ VelshopBillSheet sheetOf(const VelTarmOrder& theOrder)
     for (const VelTarmOrderBill& bill : theOrder.bills())
         sheet.myGroups.append(groupOf(bill, theOrder));
     sheet.mySums = VelshopBillSums(theOrder.amounts());
+    sheet.myOrderProblems = VelshopProblems::texts(VelshopProblems::ofOrder(theOrder), theOrder);
     sheet.myProblems = VelshopProblems::texts(theOrder.objections(), theOrder);
     return sheet;
 }

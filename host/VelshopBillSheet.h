@@ -20,10 +20,11 @@ struct VelshopBillLine
     int myArticle;
     QString myProduct;
     int myPieces;
-    int myUnitPrice; ///< cents for a piece, or for a whole package
+    int myUnits;     ///< what is charged: as many as the pieces, or one package
+    int myUnitPrice; ///< cents for a unit
     int myOldPrice;  ///< the unit price without the running offer, -1 when none is running
     int myAmount;
-    bool myIsPackage;
+    bool myIsPackage; ///< also the last package of all, which has no end and is no package to the library
     VelDiscountModel myModel;
     int myLevel;
     QString myDays; ///< as "3-5", empty where the article has no shipping time
@@ -92,8 +93,9 @@ struct VelshopBillSheet
     QString myHead; ///< order source, payment and express
     std::optional<VelshopBillCoupon> myCoupon;
     QList<VelshopBillGroup> myGroups;
-    VelshopBillSums mySums; ///< of an order that can be placed
-    QStringList myProblems; ///< of the order and all groups
+    VelshopBillSums mySums;      ///< of an order that can be placed
+    QStringList myOrderProblems; ///< why the order as a whole can't be placed
+    QStringList myProblems;      ///< these and those of all groups
 
     bool isOrderable() const { return myProblems.isEmpty(); }
 };

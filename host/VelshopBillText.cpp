@@ -39,14 +39,19 @@ void printSums(const VelshopBillSums& theSums, QTextStream& theOutput)
     table.print(theOutput, STR_INDENT);
 }
 
+void printProblems(const QStringList& theProblems, QTextStream& theOutput)
+{
+    for (const QString& problem : theProblems)
+        theOutput << STR_INDENT << "NOT ORDERABLE  " << problem << '\n';
+}
+
 void printGroup(const VelshopBillGroup& theGroup, QTextStream& theOutput)
 {
     theOutput << '\n' << "Shipping group " << theGroup.myId << ' ' << theGroup.myName << '\n';
     printLines(theGroup.myLines, theOutput);
     for (const VelshopAdvice& advice : theGroup.myAdvice)
         theOutput << STR_INDENT << advice.myProduct->name() << ": " << advice.text() << '\n';
-    for (const QString& problem : theGroup.myProblems)
-        theOutput << STR_INDENT << "NOT ORDERABLE  " << problem << '\n';
+    printProblems(theGroup.myProblems, theOutput);
     if (theGroup.myProblems.isEmpty())
         printSums(theGroup.mySums, theOutput);
 }
@@ -61,6 +66,7 @@ void VelshopBillText::print(const VelshopBillSheet& theSheet, QTextStream& theOu
     for (const VelshopBillGroup& group : theSheet.myGroups)
         printGroup(group, theOutput);
     theOutput << '\n' << (theSheet.isOrderable() ? "Order" : "Order: NOT ORDERABLE") << '\n';
+    printProblems(theSheet.myOrderProblems, theOutput);
     if (theSheet.isOrderable())
         printSums(theSheet.mySums, theOutput);
 }

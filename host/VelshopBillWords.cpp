@@ -4,7 +4,7 @@
 #include "frame/VelExpressType.h"
 #include "host/VelshopBillMoney.h"
 #include "host/VelshopBillSheet.h"
-#include "ordering/VelOrderingDetails.h"
+#include "host/VelshopWords.h"
 #include "ordering/VelTarmShippingGroupManager.h"
 #include "product/VelProductAbstract.h"
 
@@ -85,7 +85,7 @@ QString VelshopBillWords::delivered(VelDeliveryType theDeliveryType)
 
 QString VelshopBillWords::payment(VelPaymentType thePayment)
 {
-    return VelOrderingDetails::instance()->nameOfOrderingDetail(PAYMENT_CLASS_PAY_METHODS, thePayment);
+    return VelshopWords::paymentName(thePayment);
 }
 
 /// The express types have no names of their own in the library.

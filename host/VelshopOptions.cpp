@@ -11,7 +11,9 @@ const QVector<VelshopOption>& VelshopOptions::all()
         {STR_COMPLETION, QString(), QStringLiteral("Print the completion of commands and options, for bash.")},
         {STR_ACCOUNT, QStringLiteral("DIR"),
          QStringLiteral("Folder of the key account: pricelist.xml, orderingdetails.xml, currencies.xml, and where it "
-                        "has them appearance.xml and icons/payment/filenames.xml. The sample shop by default.")},
+                        "has them appearance.xml, icons/payment/filenames.xml and velshop.json with the name of the "
+                        "shop. The sample "
+                        "shop by default.")},
         {STR_JSON, QString(), QStringLiteral("Print JSON, errors included.")},
         {STR_LANGUAGE, QStringLiteral("de|en"), QStringLiteral("Language of the customer's texts: de by default.")},
         {STR_GROUP, QStringLiteral("ID"), QStringLiteral("This shipping group only.")},

@@ -5,6 +5,9 @@
 #include "ordering/VelTarmShippingGroupManager.h"
 #include "product/VelProductAbstract.h"
 
+#include <QJsonObject>
+#include <QMap>
+
 #include <algorithm>
 
 namespace {
@@ -64,6 +67,68 @@ QString reason(const Objection& theObjection, const VelTarmOrder& theOrder)
     return QString();
 }
 
+/// The kind in one word of data.
+QString kindOf(const Objection& theObjection)
+{
+    static const QMap<int, QString> kinds{{Objection::OBJECTION_ORDER_SOURCE, QStringLiteral("orderSource")},
+                                          {Objection::OBJECTION_PAYMENT, QStringLiteral("payment")},
+                                          {Objection::OBJECTION_NO_PRODUCT, QStringLiteral("unknownArticle")},
+                                          {Objection::OBJECTION_COUNT, QStringLiteral("count")},
+                                          {Objection::OBJECTION_DEPRECATED, QStringLiteral("deprecated")},
+                                          {Objection::OBJECTION_NOT_ORDERABLE, QStringLiteral("notSold")},
+                                          {Objection::OBJECTION_NO_PRICE, QStringLiteral("noPrice")},
+                                          {Objection::OBJECTION_PACKAGE_PIECES, QStringLiteral("noPackage")},
+                                          {Objection::OBJECTION_NO_EXPRESS, QStringLiteral("noExpress")},
+                                          {Objection::OBJECTION_LIMIT, QStringLiteral("limit")},
+                                          {Objection::OBJECTION_AMOUNT, QStringLiteral("amount")}};
+    return kinds.value(theObjection.myKind);
+}
+
+/// What the number of the objection is, empty for a kind that has none to tell.
+QString keyOfNumber(const Objection& theObjection)
+{
+    switch (theObjection.myKind) {
+    case Objection::OBJECTION_PAYMENT:
+        return QStringLiteral("payment");
+    case Objection::OBJECTION_NO_PRODUCT:
+    case Objection::OBJECTION_COUNT:
+    case Objection::OBJECTION_PACKAGE_PIECES:
+    case Objection::OBJECTION_LIMIT:
+        return QStringLiteral("count");
+    default:
+        return QString();
+    }
+}
+
+QString feeOf(const Objection& theObjection)
+{
+    switch (theObjection.myFee) {
+    case Objection::FEE_TRANSFER:
+        return QStringLiteral("shipping");
+    case Objection::FEE_PAYMENT:
+        return QStringLiteral("payment");
+    case Objection::FEE_EXPRESS:
+        return QStringLiteral("express");
+    case Objection::FEE_NONE:
+        break;
+    }
+    return QString();
+}
+
+QJsonObject toJson(const Objection& theObjection)
+{
+    QJsonObject json{{QStringLiteral("kind"), kindOf(theObjection)}};
+    if (theObjection.myProduct)
+        json.insert(QStringLiteral("article"), theObjection.myProduct->articleID());
+    if (theObjection.myFee != Objection::FEE_NONE)
+        json.insert(QStringLiteral("fee"), feeOf(theObjection));
+    if (!keyOfNumber(theObjection).isEmpty())
+        json.insert(keyOfNumber(theObjection), theObjection.myNumber);
+    if (theObjection.myKind == Objection::OBJECTION_LIMIT)
+        json.insert(QStringLiteral("limit"), theObjection.myLimit);
+    return json;
+}
+
 bool isOfProduct(const Objection& theObjection)
 {
     return theObjection.myProduct && theObjection.myFee == Objection::FEE_NONE;
@@ -107,6 +172,23 @@ QStringList VelshopProblems::texts(const QList<Objection>& theObjections, const 
     for (const Objection& objection : theObjections)
         texts.append(text(objection, theOrder));
     return texts;
+}
+
+QJsonArray VelshopProblems::data(const QList<Objection>& theObjections)
+{
+    QJsonArray data;
+    for (const Objection& objection : theObjections)
+        data.append(toJson(objection));
+    return data;
+}
+
+QList<Objection> VelshopProblems::ofOrder(const VelTarmOrder& theOrder)
+{
+    QList<Objection> objections;
+    for (const Objection& objection : theOrder.objections())
+        if (objection.myGroup == Objection::NO_GROUP)
+            objections.append(objection);
+    return objections;
 }
 
 QStringList VelshopProblems::ofProducts(const VelTarmOrder& theOrder)

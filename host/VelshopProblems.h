@@ -1,6 +1,7 @@
 #ifndef VELSHOPPROBLEMS_H
 #define VELSHOPPROBLEMS_H
 
+#include <QJsonArray>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -16,6 +17,12 @@ namespace VelshopProblems {
 /// As "142 Indexprint zur CD: no price by NET, MAIL".
 QString text(const VelTarmOrderObjection& theObjection, const VelTarmOrder& theOrder);
 QStringList texts(const QList<VelTarmOrderObjection>& theObjections, const VelTarmOrder& theOrder);
+
+/// The same as data: `kind`, and what the kind has of `article`, `fee`, `count`, `limit` and `payment`.
+QJsonArray data(const QList<VelTarmOrderObjection>& theObjections);
+
+/// Only what stands against the order as a whole, not against one of its bills.
+QList<VelTarmOrderObjection> ofOrder(const VelTarmOrder& theOrder);
 
 /// Only what stands against the products of the order: no fees, no limit, no amount.
 QStringList ofProducts(const VelTarmOrder& theOrder);

@@ -2,6 +2,7 @@
 
 #include "insight/VelPriceWords.h"
 #include "ordering/VelCurrencyConfig.h"
+#include "ordering/VelOrderingDetails.h"
 
 #include <QVector>
 
@@ -32,6 +33,7 @@ const QVector<Word<VelCouponType>> COUPON_TYPES = {
     {"value", COUPON_TYPE_VALUE},
     {"percent", COUPON_TYPE_PERCENT},
     {"quantity", COUPON_TYPE_QUANTITY},
+    {"unknown", COUPON_TYPE_UNKNOWN},
 };
 
 const QVector<Word<VelProductClass>> PRODUCT_CLASSES = {
@@ -106,6 +108,14 @@ QJsonObject VelshopWords::orderSourceData(const VelOrderSource& theOrderSource)
 QString VelshopWords::express(const VelExpressType& theExpressType)
 {
     return QStringLiteral("express %1").arg(theExpressType.value() - ExpressableType_STANDARD);
+}
+
+/// The library makes a name up for a payment that the shop doesn't name.
+QString VelshopWords::paymentName(VelPaymentType thePayment)
+{
+    const QString name = VelOrderingDetails::instance()->nameOfOrderingDetail(PAYMENT_CLASS_PAY_METHODS, thePayment);
+    const QStringList names = VelOrderingDetails::instance()->namesOfOrderingDetails(PAYMENT_CLASS_PAY_METHODS);
+    return names.contains(name) ? name : QString();
 }
 
 QString VelshopWords::couponType(VelCouponType theCouponType)

@@ -26,6 +26,9 @@ QJsonObject orderSourceData(const VelOrderSource& theOrderSource);
 /// As "express 1".
 QString express(const VelExpressType& theExpressType);
 
+/// The shop's name for the payment; null where it names none.
+QString paymentName(VelPaymentType thePayment);
+
 /// As "value", the word of the coupon's document; "unknown" for none.
 QString couponType(VelCouponType theCouponType);
 

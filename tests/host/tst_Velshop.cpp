@@ -297,6 +297,25 @@ private slots:
         QVERIFY(!QFileInfo::exists(account.path("discounts.xml")));
     }
 
+    /// A kiosk that nothing is sold at takes no orders, and has no payment; bands show no price that can't be read.
+    void refusedAsAWhole()
+    {
+        const TestAccount account;
+        for (const char* name : {"currencies.xml", "appearance.xml"})
+            account.write(name, content(QString(VELTARM_SOURCE_DIR "/shop/") + name));
+        account.write("orderingdetails.xml", "<o><groups><group id='1'/></groups><order_sources>"
+                                             "<order_source input_source='4' delivery_type='2'/></order_sources></o>");
+        account.write("pricelist.xml", "<p><articles><article id='1' group='1' arrangement='trivial'><base_prices>"
+                                       "<p price='1,5'/></base_prices></article></articles></p>");
+        account.write("cart.json", R"({"source":"KIOSK","delivery":"ONSITE","items":[{"article":1,"count":1}]})");
+        const QString page = account.path("bill.html");
+        const VelshopAnswer answer = bill(account.path("cart.json"), {"--account", account.path(), "--html", page});
+        QVERIFY2(answer.output.contains("no payment") && answer.output.endsWith("takes no orders by KIOSK, ONSITE\n"),
+                 answer.output);
+        QVERIFY(content(page).contains("<html") && !content(page).contains("OrderingDetail"));
+        QVERIFY(!velshop({"bands", "1", "--account", account.path()}).output.contains("-0,01"));
+    }
+
     /// A cart is walked in the order of addresses, and tables are hashed: neither may show.
     void sameBytesInEveryProcess()
     {
@@ -438,6 +457,8 @@ private slots:
         const QJsonValue coupon = json("bill tests/host/bills/voucher.json")["coupon"];
         QVERIFY(coupon["shares"][1]["amount"].toInt() == -4055 && coupon["left"].toInt(-1) == 0);
         const QJsonDocument unpriced = json("bill shop/carts/unpriced.json");
+        const QJsonObject noPrice{{"kind", "noPrice"}, {"article", 142}};
+        QCOMPARE(unpriced["groups"][0]["objections"].toArray(), QJsonArray{noPrice});
         QVERIFY(!unpriced["orderable"].toBool(true) && unpriced["sums"].isNull());
         QVERIFY(unpriced["groups"][0]["sums"].isNull() && unpriced["groups"][1]["sums"]["total"].toInt() == 3280);
     }
