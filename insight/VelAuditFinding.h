@@ -21,6 +21,7 @@ struct VELINSIGHT_EXPORT VelAuditFinding
     QString myFile;           ///< below the account's folder, with slashes
     VelDocumentPlace myPlace; ///< always a place; that of a file as a whole is its beginning
     int myLength = 1;         ///< of what is meant, in code points within its line, at least 1
+    /// How much it matters.
     VelAuditSeverity mySeverity = SEVERITY_WARNING;
     QString myRule;               ///< its name, one of VelAuditRules
     QString myMessage;            ///< what is wrong and what comes of it, without a full stop

@@ -14,8 +14,10 @@
 /// A document of an account, with the places beside its tree, and what is known of its elements.
 struct VELINSIGHT_EXPORT VelAuditDocument
 {
+    /// Reads the file below the folder.
     VelAuditDocument(const VelDocumentDescription& theDescription, const QDir& theFolder, const QString& theFile);
 
+    /// What is known of the document.
     const VelDocumentDescription& myDescription;
     const QString myFile;                  ///< below the account's folder, with slashes
     const VelPositionedDocument myContent; ///< as the library reads it; it may be unreadable
@@ -30,6 +32,7 @@ class VELINSIGHT_EXPORT VelAuditShop
     Q_DISABLE_COPY(VelAuditShop)
 
 public:
+    /// The kinds of documents.
     using Kind = VelDocumentDescription::Kind;
 
     /// Reads pricelist.xml, orderingdetails.xml and currencies.xml, and where they are there appearance.xml,

@@ -17,6 +17,7 @@ struct VelExplainedCandidate
     /// In place of a level or a bound: there is none.
     static constexpr int NONE = -1;
 
+    /// The model.
     VelDiscountModel myModel = DISCOUNT_MODEL_UNDEFINED;
     int myLevel = NONE;     ///< that was found
     int myFrom = NONE;      ///< where the band of the level begins: pieces, or cents for shipping by bill sum
@@ -25,6 +26,7 @@ struct VelExplainedCandidate
     QString myComputed;     ///< as "1 x 990 + 20 x 9", in cents; empty where nothing is charged
     QString myVerdict;      ///< why it was taken or not
     bool myIsTaken = false; ///< whether the amount is its
+    /// Of the entries behind it.
     VelExplainedPlaces myPlaces;
 };
 
@@ -39,6 +41,7 @@ struct VelExplainedNeed
 /// One amount of a bill: all pieces of an article, or a fee.
 struct VelExplainedTerm
 {
+    /// What the amount is for.
     enum Kind {
         ITEM,     ///< an article or add-on; package and rest are one term
         TRANSFER, ///< shipping
@@ -48,6 +51,7 @@ struct VelExplainedTerm
         FLOOR     ///< what is given back because the rest of the bill would come out below 0
     };
 
+    /// What it is for.
     Kind myKind = ITEM;
     int myGroup = -1;   ///< id of the shipping group
     int myArticle = 0;  ///< id of the article, also of a fee; 0 for coupon and floor
@@ -57,7 +61,9 @@ struct VelExplainedTerm
     int myCharged = 0;  ///< what it adds to the bill's total: the amount, and without a price what the bill reckons
     QString myComputed; ///< as "1 x 990 + 20 x 9", in cents; empty where nothing is charged
     QString myReason;   ///< why, in words; amounts in cents
+    /// False where there is no price.
     bool myHasPrice = true;
+    /// Of the entries behind it.
     VelExplainedPlaces myPlaces;
     QVector<VelExplainedCandidate> myCandidates; ///< in the order in which they are tried
     QVector<VelExplainedNeed> myNeeds;           ///< of a term without a price: each a way to one
