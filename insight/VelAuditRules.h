@@ -30,8 +30,9 @@ VELINSIGHT_EXPORT const QVector<VelAuditRule>& all();
 /// Null for a name that no rule has.
 VELINSIGHT_EXPORT const VelAuditRule* find(const QString& theName);
 
-/// The tables: of what the documents say by themselves, and of what they mean for a shop.
+/// The table of what the documents say by themselves.
 QVector<VelAuditRule> ofDocuments();
+/// The table of what they mean for a shop.
 QVector<VelAuditRule> ofShops();
 
 } // namespace VelAuditRules
