@@ -3,6 +3,7 @@
 #include "insight/VelAuditPhrases.h"
 #include "insight/VelAuditPrices.h"
 #include "insight/VelAuditReport.h"
+#include "sibling/VelXMLParser.h"
 
 #include <QSet>
 
@@ -39,6 +40,21 @@ QString amount(const VelTarmPriceBand& theBand)
     const int limit = theBand.value().lowerLimit();
     return theBand.discountModel() == DISCOUNT_MODEL_BILLING_SUM_TRANSFER ? QStringLiteral("%1 cents").arg(limit)
                                                                           : pieces(limit);
+}
+
+/// What it comes to, by the kind of entry.
+QString costOfNoPrice(const VelAuditCatalog::Entry& theEntry)
+{
+    switch (theEntry.myKind) {
+    case VelAuditCatalog::Entry::PAYMENT_FEE:
+        return QStringLiteral("the payment costs nothing");
+    case VelAuditCatalog::Entry::TRANSFER:
+        return QStringLiteral("shipping is charged with -1 cents");
+    case VelAuditCatalog::Entry::EXPRESS_FEE:
+        return QStringLiteral("the express class isn't offered");
+    default:
+        return QStringLiteral("it can't be ordered");
+    }
 }
 
 /// The ladders of one entry. What several order ways share is told once.
@@ -218,13 +234,21 @@ private:
         bool hasOnlyPackages = true;
         for (const Band& band : bands) {
             if (band.discountLevel() <= 0 && !isWithoutLevelZero(band.discountModel()))
-                return; // it is there, and its price is told of otherwise
+                return tellPlainPrice(band);
             hasOnlyPackages = hasOnlyPackages && isPackageModel(band.discountModel());
             if (band.discountLevel() > 0 && (!lowest || band.value().lowerLimit() < lowest->value().lowerLimit()))
                 lowest = &band;
         }
         if (lowest)
             tellFirstPiece(*lowest, hasOnlyPackages, theView.orderSource());
+    }
+
+    /// An attribute that is missing is told of by itself, and one that is no number, too.
+    void tellPlainPrice(const Band& theBand)
+    {
+        if (VelXMLParser::intAttribute(myPrices.element(theBand), STR_PRICE, 0) == theBand.price())
+            tell("no-plain-price", theBand, STR_PRICE,
+                 QStringLiteral("-1 is no price: below the first level %1").arg(costOfNoPrice(myPrices.entry())));
     }
 
     /// As a bill asks: for one piece, and of an express fee for exactly its model.
@@ -242,14 +266,10 @@ private:
             tell("least-quantity", theLowest, STR_QUANTITY,
                  QStringLiteral("less than %1 can't be ordered by %2: packages have no price below their first level")
                      .arg(least, orderWay(theSource)));
-        else if (myPrices.entry().isSold())
-            tell("no-plain-price", theLowest, STR_LEVEL,
-                 QStringLiteral("there is no level 0, so by %1 less than %2 has no price and can't be ordered")
-                     .arg(orderWay(theSource), least));
         else
             tell("no-plain-price", theLowest, STR_LEVEL,
-                 QStringLiteral("there is no level 0, so by %1 a bill of less than %2 is charged -1 cents")
-                     .arg(orderWay(theSource), least));
+                 QStringLiteral("there is no level 0, so less than %1 by %2 has no price: %3")
+                     .arg(least, orderWay(theSource), costOfNoPrice(myPrices.entry())));
     }
 
     const VelAuditDocument& myDocument;
@@ -265,21 +285,6 @@ bool hasSomePrice(const VelAuditPrices& thePrices)
             if (band.price() != -1)
                 return true;
     return false;
-}
-
-/// What it comes to, by the kind of entry.
-QString costOfNoPrice(const VelAuditCatalog::Entry& theEntry)
-{
-    switch (theEntry.myKind) {
-    case VelAuditCatalog::Entry::PAYMENT_FEE:
-        return QStringLiteral("the payment costs nothing");
-    case VelAuditCatalog::Entry::TRANSFER:
-        return QStringLiteral("shipping is charged with -1 cents");
-    case VelAuditCatalog::Entry::EXPRESS_FEE:
-        return QStringLiteral("the express class isn't offered");
-    default:
-        return QStringLiteral("it can't be ordered");
-    }
 }
 
 } // namespace

@@ -93,6 +93,7 @@ equal totals           | price='45'                             | price='44'    
 offer that runs        | price='12'                             | price='12' non_offer_price='15' end_offer_date='2099-01-01T00:00:00' |
 no level 0 below Z     | <price price='295'/>                   |                                               | no-plain-price 1
 no level 0             | <price price='100'/>                   |                                               | no-plain-price 1
+level 0 of -1          | price='100'                            | price='-1'                                    | no-plain-price -1
 no inherited level 0   | <price type='I' price='150'/>          |                                               | no-plain-price 1
 packages from 5 on     | quantity='1' price='500'               | quantity='5' price='500'                      | least-quantity 5
 no price               | <price price='12'/>                    |                                               | no-price <article
