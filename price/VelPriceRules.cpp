@@ -23,7 +23,14 @@ const Band& noBand()
 
 Charge once(VelDiscountModel theModel, const Band& theBand)
 {
-    return {&theBand, theModel, theBand.discountLevel(), 1, 1, 1};
+    Charge charge{};
+    charge.myBand = &theBand;
+    charge.myModel = theModel;
+    charge.myLevel = theBand.discountLevel();
+    charge.myPieces = 1;
+    charge.myUnits = 1;
+    charge.myItemsPerUnit = 1;
+    return charge;
 }
 
 Charge eachPiece(VelDiscountModel theModel, const Band& theBand, int theCount)
