@@ -54,7 +54,7 @@ QString difference(const QSet<QString>& theAll, const QSet<QString>& theOthers)
 
 } // namespace
 
-class TestDocumentDescription : public QObject
+class DocumentDescriptionTest : public QObject
 {
     Q_OBJECT
 
@@ -140,5 +140,5 @@ private:
     TestAccount myFolder;
 };
 
-VEL_TEST_MAIN(TestDocumentDescription)
+VEL_TEST_MAIN(DocumentDescriptionTest)
 #include "tst_DocumentDescription.moc"

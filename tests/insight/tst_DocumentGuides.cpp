@@ -121,7 +121,7 @@ bool tells(const Row& theRow, const Described& theValue)
 
 } // namespace
 
-class TestDocumentGuides : public QObject
+class DocumentGuidesTest : public QObject
 {
     Q_OBJECT
 
@@ -175,5 +175,5 @@ private:
     QMap<QString, QVector<Described>> myValues; ///< by the guide that tells of them
 };
 
-VEL_TEST_MAIN(TestDocumentGuides)
+VEL_TEST_MAIN(DocumentGuidesTest)
 #include "tst_DocumentGuides.moc"

@@ -18,7 +18,7 @@ QString printed(const VelDocumentPlace& thePlace)
 
 } // namespace
 
-class TestDocumentPositions : public QObject
+class DocumentPositionsTest : public QObject
 {
     Q_OBJECT
 
@@ -180,5 +180,5 @@ private:
     }
 };
 
-VEL_TEST_MAIN(TestDocumentPositions)
+VEL_TEST_MAIN(DocumentPositionsTest)
 #include "tst_DocumentPositions.moc"

@@ -4,7 +4,7 @@
 
 using Document = VelDocumentDescription;
 
-class TestDocumentSchema : public QObject
+class DocumentSchemaTest : public QObject
 {
     Q_OBJECT
 
@@ -115,5 +115,5 @@ private:
     TestAccount myFolder;
 };
 
-VEL_TEST_MAIN(TestDocumentSchema)
+VEL_TEST_MAIN(DocumentSchemaTest)
 #include "tst_DocumentSchema.moc"
