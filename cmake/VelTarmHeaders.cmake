@@ -1,5 +1,6 @@
 # veltarm_public_headers(result): the headers that an installation holds, relative to the source tree. Public is what
 # marks something for export, what such a header includes, and the loop over child elements, which hosts use as well.
+# The generated ones aren't among them.
 function(veltarm_public_headers result)
   file(GLOB headers RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS
        ${PROJECT_SOURCE_DIR}/bill/*.h ${PROJECT_SOURCE_DIR}/frame/*.h ${PROJECT_SOURCE_DIR}/insight/*.h
@@ -15,7 +16,7 @@ function(veltarm_public_headers result)
   set(public "")
   while(pending)
     list(POP_FRONT pending header)
-    if(NOT header IN_LIST public)
+    if(NOT header IN_LIST public AND NOT EXISTS ${VELTARM_GENERATED_DIR}/${header})
       list(APPEND public ${header})
       file(STRINGS ${PROJECT_SOURCE_DIR}/${header} includes REGEX "^#include \"")
       list(TRANSFORM includes REPLACE "^#include \"(.*)\".*" "\\1")

@@ -16,23 +16,36 @@ if(VELTARM_SIBLING_TARGET STREQUAL VelTarmSibling)
 endif()
 
 # An installation works wherever it is moved to: each library and program looks for the libraries beside itself.
-set_target_properties(VelTarm VelTarmInsight VelTarmSibling PROPERTIES INSTALL_RPATH "$ORIGIN")
+set(beside $ORIGIN)
+if(APPLE)
+  set(beside @loader_path)
+endif()
+set_target_properties(VelTarm VelTarmInsight VelTarmSibling PROPERTIES INSTALL_RPATH "${beside}")
 set_target_properties(VelTarmStatic PROPERTIES EXPORT_NAME Static)
 set_target_properties(VelTarmInsight PROPERTIES EXPORT_NAME Insight)
 set_target_properties(VelTarmInsightStatic PROPERTIES EXPORT_NAME InsightStatic)
 set_target_properties(VelTarmSibling PROPERTIES EXPORT_NAME Sibling)
 
 install(TARGETS ${VELTARM_INSTALL_TARGETS} EXPORT VelTarmTargets
+        RUNTIME COMPONENT runtime
         LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
         ARCHIVE COMPONENT development
         INCLUDES DESTINATION ${VELTARM_INSTALL_INCLUDEDIR})
 
-veltarm_public_headers(VELTARM_PUBLIC_HEADERS)
-foreach(header IN LISTS VELTARM_PUBLIC_HEADERS)
+# veltarm_install_header(root header): keeps the header's folder. Other sibling libraries bring headers of their own.
+function(veltarm_install_header root header)
   if(NOT header MATCHES "^sibling/" OR VELTARM_SIBLING_TARGET STREQUAL VelTarmSibling)
     cmake_path(GET header PARENT_PATH folder)
-    install(FILES ${header} DESTINATION ${VELTARM_INSTALL_INCLUDEDIR}/${folder} COMPONENT development)
+    install(FILES ${root}/${header} DESTINATION ${VELTARM_INSTALL_INCLUDEDIR}/${folder} COMPONENT development)
   endif()
+endfunction()
+
+veltarm_public_headers(VELTARM_PUBLIC_HEADERS)
+foreach(header IN LISTS VELTARM_PUBLIC_HEADERS)
+  veltarm_install_header(${PROJECT_SOURCE_DIR} ${header})
+endforeach()
+foreach(header IN ITEMS frame/VelTarmExport.h sibling/VelSiblingExport.h insight/VelInsightExport.h)
+  veltarm_install_header(${VELTARM_GENERATED_DIR} ${header})
 endforeach()
 
 configure_package_config_file(cmake/VelTarmConfig.cmake.in ${PROJECT_BINARY_DIR}/VelTarmConfig.cmake
@@ -60,7 +73,7 @@ install(EXPORT VelTarmTargets NAMESPACE VelTarm:: DESTINATION ${VELTARM_INSTALL_
 
 if(VELTARM_BUILD_HOST)
   file(RELATIVE_PATH libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
-  set_target_properties(velshop PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
+  set_target_properties(velshop PROPERTIES INSTALL_RPATH "${beside}/${libraries}")
   install(TARGETS velshop COMPONENT tools)
   install(DIRECTORY shop shop-small DESTINATION ${VELTARM_INSTALL_SHOPDIR} COMPONENT tools)
 endif()
