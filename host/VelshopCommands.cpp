@@ -156,7 +156,7 @@ const QVector<VelshopCommand>& VelshopCommands::all()
         {"audit",
          "",
          {},
-         {STR_RULES},
+         {STR_SARIF, STR_HTML, STR_WATCH, STR_RULES},
          {STR_ACCOUNT, STR_JSON},
          OPENS_NO_ACCOUNT,
          "what is wrong in the documents of a shop, with file, line and column",

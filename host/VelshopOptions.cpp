@@ -35,6 +35,8 @@ const QVector<VelshopOption>& VelshopOptions::all()
          QStringLiteral("What runs along the curve: pieces, or the bill sum that shipping is charged by.")},
         {STR_DIPS, QString(), QStringLiteral("All quantities of the shop beyond which a larger one costs less.")},
         {STR_SVG, QStringLiteral("FILE"), QStringLiteral("Draw totals and prices per piece as a picture.")},
+        {STR_SARIF, QString(), QStringLiteral("Print a SARIF 2.1.0 log, for tools that show findings in place.")},
+        {STR_WATCH, QString(), QStringLiteral("Check again whenever a document is saved, until Ctrl-C.")},
         {STR_RULES, QString(), QStringLiteral("List the rules, each with its severity and a sentence.")},
         {STR_ORDER_TEXT, QString(), QStringLiteral("Print the order-text lines of each product, too.")},
         {STR_ALL, QString(), QStringLiteral("Print every candidate, and every place in the documents.")},

@@ -13,12 +13,14 @@ bool isNeeded(const Document& theDescription)
            theDescription.kind() == Document::CURRENCIES;
 }
 
-/// The files of a description, whose name may stand for several.
+/// The files of a description, whose name may stand for several, and which may not be there.
 QStringList filesOf(const Document& theDescription, const QDir& theFolder)
 {
     const QFileInfo pattern(theDescription.file());
     if (!pattern.fileName().contains(STR_ALL_FILES))
-        return {theDescription.file()};
+        return isNeeded(theDescription) || QFileInfo::exists(theFolder.filePath(theDescription.file()))
+                   ? QStringList{theDescription.file()}
+                   : QStringList();
     QStringList files =
         QDir(theFolder.filePath(pattern.path())).entryList({pattern.fileName()}, QDir::Files, QDir::Name);
     for (QString& file : files)
@@ -44,8 +46,15 @@ VelAuditShop::VelAuditShop(const QDir& theFolder)
 {
     for (const Document* description : Document::all())
         for (const QString& file : filesOf(*description, theFolder))
-            if (isNeeded(*description) || QFileInfo::exists(theFolder.filePath(file)))
-                read(*description, theFolder, file);
+            read(*description, theFolder, file);
+}
+
+QStringList VelAuditShop::files(const QDir& theFolder)
+{
+    QStringList files;
+    for (const Document* description : Document::all())
+        files += filesOf(*description, theFolder);
+    return files;
 }
 
 const VelAuditDocument* VelAuditShop::document(const QString& theFile) const

@@ -39,6 +39,9 @@ public:
     /// icons/payment/filenames.xml and each coupons/*.xml, in the order of their names.
     explicit VelAuditShop(const QDir& theFolder);
 
+    /// The files that such a shop reads, below the folder: those that it can't do without, and those that are there.
+    static QStringList files(const QDir& theFolder);
+
     /// All documents, unreadable ones, too.
     const std::vector<std::unique_ptr<const VelAuditDocument>>& documents() const { return myDocuments; }
     /// The document of a file below the account's folder, null for none.

@@ -6,7 +6,7 @@
 #include "insight/VelAuditWords.h"
 #include "ordering/VelTarmShippingTime.h"
 #include "price/VelDiscountLimit.h"
-#include "product/VelProductAddOn.h"
+#include "price/VelTarmPriceValue.h"
 #include "sibling/VelXMLParser.h"
 
 #include <QDomElement>
@@ -16,6 +16,7 @@ namespace {
 const char* const BLANKS = "blanks";
 const char* const WRONG_CASE = "wrong-case";
 const char* const INEXACT_ID = "inexact-id";
+const char* const LOWER_CASE_PACKAGE = "lower-case-package";
 const char* const ORDER_TEXT_SLIP = "order-text-slip";
 
 const QString STR_ID = QStringLiteral("id");
@@ -23,9 +24,9 @@ const QString STR_TYPE = QStringLiteral("type");
 const QString STR_PRODUCT_CLASS = QStringLiteral("product_class");
 const QString STR_ARRANGEMENT = QStringLiteral("arrangement");
 const QString STR_ARTICLE = QStringLiteral("article");
-const QString STR_PAYMENT_NAME = QStringLiteral("payment name");
+const QString STR_BASE_PRICES = QStringLiteral("base_prices");
+const QString STR_DISCOUNT_PRICES = QStringLiteral("discount_prices");
 const QString STR_NAME = QStringLiteral("name");
-const QString STR_PAYMENT_ID = QStringLiteral("payment");
 
 using Value = VelValueDescription;
 
@@ -142,18 +143,54 @@ void checkListedId(const VelAuditSite& theSite)
                        true);
 }
 
+/// The price of a single piece without any package, -1 where there is none.
+int plainPrice(const QDomElement& theEntry)
+{
+    const QDomElement product = theEntry.parentNode().parentNode().toElement();
+    int price = -1;
+    for (const QString& group : {STR_BASE_PRICES, STR_DISCOUNT_PRICES})
+        for (const QDomElement& entry : VelChildElements(product.firstChildElement(group))) {
+            const VelTarmPriceValue value(entry);
+            const bool isPlain =
+                value.discountLimit().discountModel() == DISCOUNT_MODEL_BULK && value.discountLevel() == 0;
+            price = isPlain ? qMax(price, value.price()) : price;
+        }
+    return price;
+}
+
+/// In lower case each piece costs the price: when that is more than a piece costs by itself, a sum was meant.
+void checkPriceOfPieces(const VelAuditSite& theSite)
+{
+    const int price = VelTarmPriceValue(theSite.element()).price();
+    const int plain = plainPrice(theSite.element());
+    if (plain >= 0 && price > plain)
+        theSite.report(
+            LOWER_CASE_PACKAGE,
+            QStringLiteral(
+                "%1 in lower case makes each piece cost %2, and one piece by itself costs %3; did you mean \"%4\"?")
+                .arg(quoted(theSite))
+                .arg(price)
+                .arg(plain)
+                .arg(theSite.text().trimmed().toUpper()),
+            true);
+}
+
 /// The letter of a package says by its case what the price is for, and a blank has none.
 void checkPackageLetter(const VelAuditSite& theSite)
 {
     const VelDiscountLimit limit(theSite.element());
     const bool isPackageModel =
         limit.discountModel() == DISCOUNT_MODEL_PACKAGE || limit.discountModel() == DISCOUNT_MODEL_LEVEL_PACKAGE;
-    if (isPackageModel && !limit.isPackage() && theSite.text().trimmed().at(0).isUpper())
+    if (!isPackageModel || limit.isPackage())
+        return;
+    if (theSite.text().trimmed().at(0).isUpper())
         theSite.report(
             BLANKS,
             QStringLiteral("%1 begins with a blank, so the price is that of each piece and not of the package")
                 .arg(quoted(theSite)),
             true);
+    else
+        checkPriceOfPieces(theSite);
 }
 
 } // namespace

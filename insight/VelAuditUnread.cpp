@@ -111,6 +111,37 @@ QString conditionText(const VelReadingCondition& theCondition)
              VelAuditWords::choice(words));
 }
 
+/// The first text of the element itself that isn't blank.
+QString firstText(const QDomElement& theElement)
+{
+    for (QDomNode node = theElement.firstChild(); !node.isNull(); node = node.nextSibling())
+        if (node.isText() && !node.nodeValue().trimmed().isEmpty())
+            return node.nodeValue();
+    return QString();
+}
+
+/// The place of a text's first character that is no blank.
+VelDocumentPlace behindBlanks(VelDocumentPlace thePlace, const QString& theText)
+{
+    for (const QChar character : theText) {
+        if (!character.isSpace())
+            break;
+        const bool isLineEnd = character == QLatin1Char('\n');
+        thePlace = isLineEnd ? VelDocumentPlace{thePlace.myLine + 1, 1}
+                             : VelDocumentPlace{thePlace.myLine, thePlace.myColumn + 1};
+    }
+    return thePlace;
+}
+
+/// Where others may have their elements, too, only one that is nearly ours is meant to be ours, if ours isn't there.
+bool isSlip(const QDomElement& theChild, const VelElementDescription& theParent)
+{
+    for (const VelElementDescription& known : theParent.children())
+        if (VelAuditWords::distance(theChild.tagName(), known.tag(), 2) <= 2)
+            return theChild.parentNode().firstChildElement(known.tag()).isNull();
+    return false;
+}
+
 } // namespace
 
 VelAuditUnread::VelAuditUnread(const VelAuditDocument& theDocument, VelAuditReport& theReport)
@@ -128,7 +159,7 @@ const VelElementDescription* VelAuditUnread::child(const QDomElement& theChild, 
                 QStringLiteral("%1 has no effect in %2").arg(inBrackets(theChild.tagName()), theParent.tag()));
         return description;
     }
-    if (theParent.isOpen())
+    if (theParent.isOpen() && !isSlip(theChild, theParent))
         return nullptr;
     description = builtByTag(theChild, theParent);
     if (!description)
@@ -186,14 +217,14 @@ bool VelAuditUnread::isIdle(const QDomElement& theElement, const VelElementDescr
 
 void VelAuditUnread::text(const QDomElement& theElement)
 {
-    if (!myDocument.myContent.elementText(theElement).isValid())
+    VelDocumentPlace place = myDocument.myContent.elementText(theElement);
+    if (!place.isValid())
         return;
-    QString text;
-    for (QDomNode node = theElement.firstChild(); !node.isNull() && text.isEmpty(); node = node.nextSibling())
-        text = node.isText() ? node.nodeValue().trimmed() : QString();
-    myReport.at(STRAY_TEXT, myDocument, myDocument.myContent.elementText(theElement), text.size(),
+    const QString text = firstText(theElement);
+    place = behindBlanks(place, text);
+    myReport.at(STRAY_TEXT, myDocument, place, static_cast<int>(text.trimmed().size()),
                 QStringLiteral("the text %1 isn't read in %2")
-                    .arg(VelAuditWords::quoted(text), inBrackets(theElement.tagName())));
+                    .arg(VelAuditWords::quoted(text.trimmed()), inBrackets(theElement.tagName())));
 }
 
 /// In these two sections an element is built as what its tag says; but a fee is found in the section of fees alone.

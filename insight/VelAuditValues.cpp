@@ -49,7 +49,7 @@ QString numbersOf(const VelVocabulary& theVocabulary)
 {
     QStringList numbers;
     for (const VelVocabulary::Word& word : theVocabulary.myWords)
-        numbers.append(QString::number(word.myValue));
+        numbers.append(QStringLiteral("%1 (%2)").arg(QString::number(word.myValue), word.myMeaning));
     return VelAuditWords::choice(numbers);
 }
 
@@ -59,6 +59,11 @@ bool isOfWord(const VelVocabulary& theVocabulary, int theNumber)
                        [theNumber](const VelVocabulary::Word& theWord) { return theWord.myValue == theNumber; });
 }
 
+bool isTakenOff(const Value& theValue)
+{
+    return theValue.myType == Value::TYPE_CENTS && theValue.myHighest == 0;
+}
+
 void checkRange(const VelAuditSite& theSite, int theNumber)
 {
     const Value& value = theSite.description();
@@ -66,7 +71,7 @@ void checkRange(const VelAuditSite& theSite, int theNumber)
     if (theNumber < value.myLowest)
         theSite.report(OUT_OF_RANGE, QStringLiteral("%1 is below %2").arg(quoted(theSite)).arg(value.myLowest),
                        isGrave);
-    else if (theNumber > value.myHighest)
+    else if (theNumber > value.myHighest && !isTakenOff(value)) // a coupon that adds is told by what it does to bills
         theSite.report(OUT_OF_RANGE, QStringLiteral("%1 is above %2").arg(quoted(theSite)).arg(value.myHighest),
                        isGrave);
     else if (!value.myVocabulary.myWords.isEmpty() && !isOfWord(value.myVocabulary, theNumber))
@@ -104,13 +109,13 @@ QStringList partsOf(const QString& theText)
     return parts;
 }
 
-/// The word of the vocabulary that a value stands for, null for none.
+/// The word that a value stands for with what it means, null for none: "1" (CD).
 QString wordOf(const VelVocabulary& theVocabulary, int theValue)
 {
     for (const VelVocabulary::Word& word : theVocabulary.myWords)
         if (word.myValue == theValue)
-            return word.myText;
-    return QString();
+            return QStringLiteral("\"%1\" (%2)").arg(word.myText, word.myMeaning);
+    return QStringLiteral("what no word stands for");
 }
 
 void reportUnknownWord(const VelAuditSite& theSite, const QString& theWord)
@@ -132,11 +137,9 @@ void checkCombined(const VelAuditSite& theSite, const QStringList& theParts)
     if (combined == vocabulary.myDecode(theParts.first()) && combined == vocabulary.myDecode(theParts.last()) &&
         vocabulary.word(theParts.first()))
         return;
-    const QString word = wordOf(vocabulary, combined);
-    const QString result = word.isNull() ? QStringLiteral("something that no word stands for")
-                                         : QLatin1Char('"') + word + QLatin1Char('"');
-    theSite.report(COMBINED_WORDS,
-                   QStringLiteral("%1 is no list: its words combine into %2").arg(quoted(theSite), result));
+    theSite.report(
+        COMBINED_WORDS,
+        QStringLiteral("%1 is no list: its words combine into %2").arg(quoted(theSite), wordOf(vocabulary, combined)));
 }
 
 /// Nothing written is nothing meant, where that is allowed.
