@@ -34,6 +34,7 @@ const Comparison COMPARISONS[] = {
     {"allCurves", "load", Bound::AT_MOST, 0.5},
     {"reloadObjects", "bareParse", Bound::AT_MOST, 0.35},
     {"reload", "bareParse", Bound::NONE, 0},
+    {"audit", "load", Bound::AT_MOST, 3},
     {"liveMemory", nullptr, Bound::AT_MOST, 4.5},
     {"residentMemory", nullptr, Bound::AT_MOST, 4},
     {"plainBill/sameCart/lines:20", "flatBill/sameCart/lines:20", Bound::AT_MOST, 25},

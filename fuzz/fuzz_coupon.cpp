@@ -1,6 +1,7 @@
 #include "bill/VelCoupon.h"
 #include "bill/VelTarmBill.h"
 #include "frame/VelArithmetic.h"
+#include "fuzz/FuzzAudit.h"
 #include "fuzz/FuzzBill.h"
 #include "fuzz/FuzzShop.h"
 #include "product/VelProductRegistry.h"
@@ -65,5 +66,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* theData, size_t theSize)
     FUZZ_REQUIRE(!coupon.isValid() || coupon.type() != COUPON_TYPE_UNKNOWN);
     FUZZ_REQUIRE(!coupon.validArticles().contains(0));
     coupon.validArticleNames();
+    auditDocument(QStringLiteral("coupons/coupon.xml"), documents.first());
     return 0;
 }

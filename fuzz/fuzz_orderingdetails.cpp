@@ -1,5 +1,6 @@
 #include "frame/VelChildElements.h"
 #include "frame/VelTarmGlobalStatus.h"
+#include "fuzz/FuzzAudit.h"
 #include "fuzz/FuzzShop.h"
 #include "ordering/VelCurrency.h"
 #include "ordering/VelCurrencyConfig.h"
@@ -130,6 +131,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* theData, size_t theSize)
         askMoney(details);
         askRest(details);
         askCurrencies(FuzzShop::load(document));
+        auditDocument(QStringLiteral("orderingdetails.xml"), document);
+        auditDocument(QStringLiteral("currencies.xml"), document);
     }
     return 0;
 }

@@ -3,6 +3,7 @@
 #include "bill/VelTarmBill.h"
 #include "frame/VelArithmetic.h"
 #include "frame/VelChildElements.h"
+#include "fuzz/FuzzAudit.h"
 #include "fuzz/FuzzBill.h"
 #include "fuzz/FuzzShop.h"
 #include "ordering/VelOrderingDetails.h"
@@ -314,5 +315,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* theData, size_t theSize)
     }
     load(*registry, documents.first());
     FUZZ_REQUIRE(pricesOf(products.mid(0, MOST_PRODUCTS)) == prices);
+    auditDocument(QStringLiteral("pricelist.xml"), documents.first());
     return 0;
 }

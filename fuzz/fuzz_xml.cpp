@@ -1,4 +1,5 @@
 #include "frame/VelChildElements.h"
+#include "fuzz/FuzzAudit.h"
 #include "fuzz/FuzzShop.h"
 #include "sibling/VelXMLParser.h"
 
@@ -47,6 +48,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* theData, size_t theSize)
 {
     const QByteArray bytes(reinterpret_cast<const char*>(theData), static_cast<int>(theSize));
+    auditDocument(QStringLiteral("appearance.xml"), bytes);
     const QDomElement root = FuzzShop::load(bytes);
     if (root.isNull())
         return 0;
