@@ -1,5 +1,6 @@
 #include "benchmarks/PriceListFile.h"
 #include "insight/VelPriceCurve.h"
+#include "insight/VelPriceGaps.h"
 #include "product/VelProductAbstract.h"
 
 #include <benchmark/benchmark.h>
@@ -25,6 +26,18 @@ void allCurves(benchmark::State& theState)
     }
 }
 
+/// The map of the same shop: what is priced by which order way, fees included.
+void allGaps(benchmark::State& theState)
+{
+    PriceListFile::load(static_cast<int>(theState.range(0)));
+    for (auto _ : theState) {
+        const VelPriceGaps gaps(VelPriceCurve::AS_SOLD);
+        if (gaps.articles().size() < theState.range(0) || gaps.ways().isEmpty())
+            theState.SkipWithError("the map misses articles or ways");
+    }
+}
+
 BENCHMARK(allCurves)->Arg(1000)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
+BENCHMARK(allGaps)->Arg(1000)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
 
 } // namespace
