@@ -6,6 +6,7 @@
 #include "host/VelshopCurve.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopExplain.h"
+#include "host/VelshopGaps.h"
 #include "host/VelshopList.h"
 #include "host/VelshopOptions.h"
 #include "host/VelshopPrice.h"
@@ -51,18 +52,20 @@ const QVector<VelshopCommand>& VelshopCommands::all()
          shared(),
          OPENS_ACCOUNT,
          "what so many pieces cost, with the discount model, level and band of each line",
-         "Where one half of the order way is not named, that of the shop's starting choice is taken.",
+         "Where one half of the order way is not named, that of the shop's starting choice is taken. ARTICLE may be "
+         "that of a fee, too, which is asked with a bill sum of 1 cent.",
          "velshop price 131 120 --source CD",
          readAndRun(readPriceArguments, priceArticle)},
         {"bands",
          "GROUP",
          {},
-         {},
+         {STR_SOURCE, STR_DELIVERY},
          shared(),
          OPENS_ACCOUNT,
-         "the discount bands of a shipping group, with the price of each product in each band",
-         "Bands and prices are those of the shop's starting choice.",
-         "velshop bands 1",
+         "the discount bands of a shipping group and its fees, with the price of each product in each band",
+         "Bands and prices are those of the shop's starting choice where no order way is named. Behind the products "
+         "stand the fees that a bill of the group may be charged: shipping, payments and express.",
+         "velshop bands 1 --source CD",
          readAndRun(readBandsArguments, showBands)},
         {"unit",
          "ARTICLE",
@@ -133,6 +136,18 @@ const QVector<VelshopCommand>& VelshopCommands::all()
          "options of a choice the cart is explained as if it were ordered so.",
          "velshop explain cart.json --source CD --compare",
          readAndRun(readExplainArguments, explain)},
+        {"gaps",
+         "",
+         {},
+         {STR_GROUP, STR_HTML},
+         shared(),
+         OPENS_ACCOUNT,
+         "what is sold by which order way, and what isn't: every article and fee by every way",
+         "The order ways are those of the ordering details, and in brackets others by which an article has a price. A "
+         "price below 0 is none, and quantities go up to 100000. The page of --html is a matrix with filters, in one "
+         "file.",
+         "velshop gaps --group 4 --html gaps.html",
+         readAndRun(readGapsArguments, showGaps)},
         {"shop",
          "",
          {},

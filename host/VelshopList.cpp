@@ -1,6 +1,5 @@
 #include "host/VelshopList.h"
 
-#include "frame/VelTarmGlobalStatus.h"
 #include "host/VelshopCommandLine.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopOptions.h"
@@ -121,8 +120,8 @@ int listArticles(const VelshopListArguments& theArguments, QTextStream& theOutpu
         theError = QStringLiteral("no article is in the shipping group %1").arg(theArguments.myGroup);
         return EXIT_BAD_INPUT;
     }
-    VelOrderSource source = VelTarmGlobalStatus::instance()->orderSource();
-    if (theArguments.mySource.isNamed() && !theArguments.mySource.complete(source, theError))
+    VelOrderSource source = VelOrderSource::onlineMailOrder();
+    if (!theArguments.mySource.completeNamed(source, theError))
         return EXIT_BAD_INPUT;
     if (theArguments.myIsJson)
         printJson(articles, source, theOutput);

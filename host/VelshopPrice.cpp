@@ -10,12 +10,14 @@
 #include "host/VelshopWords.h"
 #include "price/VelDiscountLimit.h"
 #include "product/VelProductAbstract.h"
+#include "product/VelProductRegistry.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTextStream>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -93,16 +95,45 @@ QJsonObject toJson(const PricedLine& theLine)
     return json;
 }
 
-/// What so many pieces of a product cost by one order way, as a bill of their own shows it.
-struct PricedArticle
+/// So many pieces of a product by one order way.
+struct Asked
 {
-    const VelProductAbstract* myProduct;
+    VelProductAbstract* myProduct;
     int myCount;
     VelOrderSource mySource;
+    VelDiscountModel myKeyModel; ///< of the price key that it is asked for with
+    bool myIsFee;
+};
+
+/// What they cost, as a bill of their own shows it.
+struct PricedArticle
+{
+    Asked myAsked;
     int myAmount;
     bool myHasPrice;
     QList<PricedLine> myLines;
 };
+
+/// A fee can't be ordered, so there is no order to ask.
+bool isFeePriced(const VelTarmBill& theBill)
+{
+    const VelTarmBillPositionList& positions = theBill.orderPositions();
+    return std::all_of(positions.begin(), positions.end(), [](const VelTarmBillPositionAbstract* thePosition) {
+        return qobject_cast<const VelTarmBillPosition*>(thePosition) && thePosition->unitPrice() >= 0 &&
+               thePosition->countItems() > 0;
+    });
+}
+
+/// A fee is asked with a bill sum of 1 cent: shipping by bill sum costs nothing for 0.
+PricedArticle pricedArticle(const Asked& theAsked, VelTarmBill& theBill)
+{
+    const VelTarmPriceKey key(theAsked.mySource, -1, theAsked.myKeyModel);
+    const int amount = theAsked.myProduct->priceFor(key, theAsked.myCount, theAsked.myIsFee ? 1 : 0, &theBill, nullptr);
+    const bool hasPrice = theAsked.myIsFee
+                              ? isFeePriced(theBill)
+                              : VelshopProblems::hasPrice(theAsked.myProduct, theAsked.myCount, theAsked.mySource);
+    return {theAsked, amount, hasPrice, pricedLines(theBill, theAsked.mySource)};
+}
 
 QJsonObject toJson(const PricedArticle& theArticle)
 {
@@ -111,20 +142,20 @@ QJsonObject toJson(const PricedArticle& theArticle)
     if (hasPrice)
         for (const PricedLine& line : theArticle.myLines)
             lines.append(toJson(line));
-    return {{QStringLiteral("article"), theArticle.myProduct->articleID()},
-            {QStringLiteral("name"), theArticle.myProduct->name()},
-            {QStringLiteral("count"), theArticle.myCount},
-            {QStringLiteral("orderSource"), VelshopWords::orderSourceData(theArticle.mySource)},
+    return {{QStringLiteral("article"), theArticle.myAsked.myProduct->articleID()},
+            {QStringLiteral("name"), theArticle.myAsked.myProduct->name()},
+            {QStringLiteral("count"), theArticle.myAsked.myCount},
+            {QStringLiteral("orderSource"), VelshopWords::orderSourceData(theArticle.myAsked.mySource)},
             {QStringLiteral("amount"), hasPrice ? QJsonValue(theArticle.myAmount) : QJsonValue()},
             {QStringLiteral("text"), hasPrice ? QJsonValue(VelshopWords::money(theArticle.myAmount)) : QJsonValue()},
             {QStringLiteral("lines"), lines}};
 }
 
-QString headText(const PricedArticle& theArticle)
+QString headText(const Asked& theAsked)
 {
     return QStringLiteral("%1 %2, %3 pieces by %4")
-        .arg(QString::number(theArticle.myProduct->articleID()), theArticle.myProduct->name(),
-             QString::number(theArticle.myCount), VelshopWords::orderSource(theArticle.mySource));
+        .arg(QString::number(theAsked.myProduct->articleID()), theAsked.myProduct->name(),
+             QString::number(theAsked.myCount), VelshopWords::orderSource(theAsked.mySource));
 }
 
 void print(const PricedArticle& theArticle, bool theIsJson, QTextStream& theOutput)
@@ -132,11 +163,12 @@ void print(const PricedArticle& theArticle, bool theIsJson, QTextStream& theOutp
     if (theIsJson) {
         theOutput << QJsonDocument(toJson(theArticle)).toJson();
     } else if (theArticle.myHasPrice) {
-        theOutput << headText(theArticle) << ": " << VelshopWords::money(theArticle.myAmount) << '\n';
+        theOutput << headText(theArticle.myAsked) << ": " << VelshopWords::money(theArticle.myAmount) << '\n';
         for (const PricedLine& line : theArticle.myLines)
             theOutput << lineText(line) << '\n';
-        const VelshopAdvice advice = adviceFor(theArticle.myProduct, theArticle.myCount, theArticle.mySource, 0);
-        if (advice.isGiven())
+        const Asked& asked = theArticle.myAsked;
+        const VelshopAdvice advice = adviceFor(asked.myProduct, asked.myCount, asked.mySource, 0);
+        if (!asked.myIsFee && advice.isGiven())
             theOutput << "  " << advice.text() << '\n';
     }
 }
@@ -154,25 +186,26 @@ bool readPriceArguments(const VelshopCommandLine& theLine, VelshopPriceArguments
 
 int priceArticle(const VelshopPriceArguments& theArguments, QTextStream& theOutput, VelshopError& theError)
 {
-    VelProductAbstract* product = findArticle(theArguments.myArticle, theError);
-    if (!product)
+    Asked asked{nullptr, theArguments.myCount, VelOrderSource::onlineMailOrder(), DISCOUNT_MODEL_UNDEFINED, false};
+    asked.myProduct = findArticleOrFee(theArguments.myArticle, asked.myKeyModel, theError);
+    if (!asked.myProduct || !theArguments.mySource.complete(asked.mySource, theError))
         return EXIT_BAD_INPUT;
-    VelOrderSource source = VelOrderSource::onlineMailOrder();
-    if (!theArguments.mySource.complete(source, theError))
-        return EXIT_BAD_INPUT;
+    asked.myIsFee = VelProductRegistry::instance()->productWithArticleID(theArguments.myArticle) != asked.myProduct;
+    if (asked.myIsFee && asked.myProduct->transferModel() == TRANSFER_MODEL_2) {
+        theError = headText(asked) + QStringLiteral(": it is charged by the products of an order");
+        return EXIT_NO_PRICE;
+    }
     VelTarmStatus status;
-    status.setOrderSource(source);
-    VelTarmBill bill(product->shippingGroupId(), VelOrderStatistic(), VelExpressType(), status);
-    const int amount = product->priceFor(status.priceKey(), theArguments.myCount, 0, &bill, nullptr);
-    const bool hasPrice = VelshopProblems::hasPrice(product, theArguments.myCount, source);
-    const PricedArticle article{product, theArguments.myCount, source, amount, hasPrice, pricedLines(bill, source)};
+    status.setOrderSource(asked.mySource);
+    VelTarmBill bill(asked.myProduct->shippingGroupId(), VelOrderStatistic(), VelExpressType(), status);
+    const PricedArticle article = pricedArticle(asked, bill);
     if (isTooLarge(article.myLines)) {
-        theError = headText(article) + QStringLiteral(": the amount is beyond what 32 bits of cents can hold");
+        theError = headText(asked) + QStringLiteral(": the amount is beyond what 32 bits of cents can hold");
         return EXIT_BAD_INPUT;
     }
     print(article, theArguments.myIsJson, theOutput);
-    if (hasPrice)
+    if (article.myHasPrice)
         return EXIT_DONE;
-    theError = headText(article) + QStringLiteral(": no price");
+    theError = headText(asked) + QStringLiteral(": no price");
     return EXIT_NO_PRICE;
 }

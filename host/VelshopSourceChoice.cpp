@@ -57,3 +57,9 @@ bool VelshopSourceChoice::complete(VelOrderSource& theSource, const VelOrderSour
         theError = QStringLiteral("KIOSK and ONSITE go together and with nothing else");
     return theError.isEmpty();
 }
+
+bool VelshopSourceChoice::completeNamed(VelOrderSource& theSource, VelshopError& theError) const
+{
+    theSource = VelTarmGlobalStatus::instance()->orderSource();
+    return !isNamed() || complete(theSource, theError);
+}

@@ -22,6 +22,9 @@ public:
     /// The same, completed by another choice.
     bool complete(VelOrderSource& theSource, const VelOrderSource& theOther, VelshopError& theError) const;
 
+    /// The same, but with nothing named the shop's starting choice as it is, which may be no valid order source.
+    bool completeNamed(VelOrderSource& theSource, VelshopError& theError) const;
+
 private:
     /// INPUT_SOURCE_ANY and DELIVERY_TYPE_ANY leave the choice open.
     VelInputSource myInputSource = INPUT_SOURCE_ANY;

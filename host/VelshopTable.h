@@ -13,6 +13,8 @@ public:
 
     /// A row has as many fields as the head.
     void add(const QStringList& theRow) { myRows.append(theRow); }
+    /// Whether there is nothing below the head.
+    bool isEmpty() const { return myRows.size() == 1; }
     void print(QTextStream& theOutput, const QString& theIndent = QString()) const;
 
 private:

@@ -45,6 +45,10 @@ private slots:
             composed book           | unit 9210 --pages 40 --videos 1 --template 12=3 | 40 pages: 20,12 €; 2 x page packages: 2,98 €; 1 x templates: 1,20 €; 1 x videos: 0,99 €
             in English              | bill shop/carts/small.json --language en | (Rechnung); Standard production and standard shipping
             list of a group         | list --group 31                  | 3101;  no
+            fee                     | price 13041 5                    | 7,90 €; express fee, level 1
+            bands of another source | bands 7 --source CD              | Versand Geschenke   by the products; 0 to 4  13071
+            bands of a bill sum     | bands 5                          | bill from 50,00 €  11005
+            map of gaps             | gaps --group 1                   | Indexprint zur CD  -        -         yes; Online-Übe…  yes
             list of another source  | list --source CD                 | BY CD, MAIL; 1,99 €    yes        yes
             why a package           | explain 131 80                   | 1 x 990; package: it wins at once; 21 more reach; pricelist.xml:340:56: price="990"
             why an inherited price  | explain 5002 6 --level 1 --all   | inherited discount, level 1, 3 to 9: 13,74 €; type="I"; compared:
@@ -105,6 +109,9 @@ private slots:
             explain shop/carts/small.json --level 1     | 2        | goes with an article
             explain shop/carts/small.json --payment 77  | 2        | 77 can't be chosen
             explain shop/carts/small.json --express 7   | 2        | must be 0, 1 or 2
+            price 11007 1                               | 1        | charged by the products
+            price 11005 1 --source KIOSK                | 1        | no price
+            gaps --group 77                             | 2        | no article is in the shipping group 77
             bands                                       | 2        | bands takes 1 argument behind
             bands 99                                    | 2        | 99
             unit 103 --pages 10                         | 2        | pages: belongs to books and calendars alone
@@ -187,6 +194,14 @@ private slots:
         for (const QJsonValue& answer : {price["orderSource"], unit["orderSource"], shop["start"]["orderSource"],
                                          json("list")[0]["orderSource"], band["orderSource"]})
             QCOMPARE(answer.toObject(), netMail);
+        const QJsonObject cell{{"article", 142},        {"orderSource", netMail},
+                               {"offered", true},       {"from", QJsonValue()},
+                               {"holes", QJsonArray()}, {"reason", "no price by this order way"}};
+        QVERIFY(json("gaps")["cells"].toArray().contains(cell));
+        const QJsonObject fee{{"kind", "express"},       {"article", 13041},      {"group", 4},
+                              {"payment", QJsonValue()}, {"express", "1"},        {"orderSource", netMail},
+                              {"priced", true},          {"reason", QJsonValue()}};
+        QVERIFY(json("gaps")["fees"].toArray().contains(fee));
         const QJsonObject ofTwoBooks = json("types")[2].toObject();
         QVERIFY(ofTwoBooks["products"].toArray().size() == 2 && !ofTwoBooks.contains("pages")); // which would it tell?
     }
