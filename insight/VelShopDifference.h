@@ -1,0 +1,72 @@
+#ifndef VELSHOPDIFFERENCE_H
+#define VELSHOPDIFFERENCE_H
+
+#include "insight/VelInsightExport.h"
+#include "insight/VelShopSnapshot.h"
+
+/// An article, an add-on or a fee of both shops that isn't the same any more.
+struct VelShopEntryChange
+{
+    VelShopEntry myOld; ///< with all fields and totals
+    VelShopEntry myNew;
+    QVector<VelShopFieldChange> myFields;
+    QVector<VelTotalsChange> myTotals;
+};
+
+/// A cart that comes to something else.
+struct VelShopCartChange
+{
+    /// A term that differs; one of kind, group and article stands on both sides or on one.
+    struct Term
+    {
+        bool myIsInOld = false;
+        bool myIsInNew = false;
+        VelShopTerm myOld;
+        VelShopTerm myNew;
+    };
+
+    VelShopCart myOld;
+    VelShopCart myNew;
+    QVector<Term> myTerms; ///< none where the carts come to the same
+
+    bool isEmpty() const;
+};
+
+/**
+ * What changed from one shop to another, by effect: what is written another way and read alike is no difference, nor is
+ * an order of elements that nothing depends on.
+ *
+ *     const VelShopDifference difference(before, VelShopSnapshot::taken());
+ *     for (const VelShopEntryChange& change : difference.changed())
+ *         qDebug() << change.myNew.myArticle << change.myFields.size() << change.myTotals.size();
+ */
+class VELINSIGHT_EXPORT VelShopDifference
+{
+public:
+    VelShopDifference(const VelShopSnapshot& theOld, const VelShopSnapshot& theNew);
+
+    /// Whether there is none. Carts without any are no difference.
+    bool isEmpty() const;
+
+    /// Only in the new shop, by id; fees are those that are charged for something that had none.
+    const QVector<VelShopEntry>& added() const { return myAdded; }
+    /// Only in the old shop.
+    const QVector<VelShopEntry>& removed() const { return myRemoved; }
+    const QVector<VelShopEntryChange>& changed() const { return myChanged; }
+    /// Of the shop as a whole.
+    const QVector<VelShopFieldChange>& conditions() const { return myConditions; }
+    /// Every cart that both snapshots hold, in their order, the same ones too.
+    const QVector<VelShopCartChange>& carts() const { return myCarts; }
+
+private:
+    void compareEntries(const QVector<VelShopEntry>& theOld, const QVector<VelShopEntry>& theNew);
+    void compareEntry(const VelShopEntry& theOld, const VelShopEntry& theNew);
+
+    QVector<VelShopEntry> myAdded;
+    QVector<VelShopEntry> myRemoved;
+    QVector<VelShopEntryChange> myChanged;
+    QVector<VelShopFieldChange> myConditions;
+    QVector<VelShopCartChange> myCarts;
+};
+
+#endif
