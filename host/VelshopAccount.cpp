@@ -59,10 +59,17 @@ bool canPrintMoney(const QFileInfo& theFile, const QDomElement& theCurrencies, V
 
 bool openAccount(const QString& theFolder, VelshopError& theError)
 {
+    return openAccountWith(QString(), theFolder, theError);
+}
+
+bool openAccountWith(const QString& thePriceList, const QString& theFolder, VelshopError& theError)
+{
     VelDirectoryConfig::instance()->setResourceDirectory(theFolder);
     VelDirectoryConfig::instance()->setConfigurationDirectory(theFolder);
     VelKeyAccount* keyAccount = VelKeyAccount::instance();
     keyAccount->activate(QDir(theFolder));
+    if (!thePriceList.isEmpty())
+        keyAccount->setPricelistXMLFileInfo(QFileInfo(thePriceList));
     const QFileInfo currenciesFile(QDir(theFolder).filePath(STR_CURRENCIES_FILE));
     if (!isThere(keyAccount->pricelistXMLFileInfo(false), theError) ||
         !isThere(keyAccount->orderingDetailsXMLFileInfo(false), theError) || !isThere(currenciesFile, theError))

@@ -9,6 +9,9 @@
 /// line and column, when one of its documents can't be read.
 bool openAccount(const QString& theFolder, VelshopError& theError);
 
+/// The same with another price list in place of that of the folder.
+bool openAccountWith(const QString& thePriceList, const QString& theFolder, VelshopError& theError);
+
 /// The shop's name for customers: `shop` in the order desk's own settings of the key account, the file velshop.json. It
 /// stays as it is without the file. False, with the error, for a file of anything else.
 bool readShopName(const QString& theFolder, QString& theName, VelshopError& theError);

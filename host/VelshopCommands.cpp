@@ -4,6 +4,8 @@
 #include "host/VelshopBands.h"
 #include "host/VelshopBill.h"
 #include "host/VelshopCurve.h"
+#include "host/VelshopDiff.h"
+#include "host/VelshopDiffSide.h"
 #include "host/VelshopExitCode.h"
 #include "host/VelshopExplain.h"
 #include "host/VelshopGaps.h"
@@ -25,6 +27,22 @@ const QStringList& shared()
 {
     static const QStringList options{STR_ACCOUNT, STR_JSON, STR_LANGUAGE};
     return options;
+}
+
+/// Those that velshop starts itself with, and nobody else.
+const QVector<VelshopCommand>& internal()
+{
+    static const QVector<VelshopCommand> commands{{"snapshot",
+                                                   "SHOP",
+                                                   {},
+                                                   {STR_CART},
+                                                   shared(),
+                                                   OPENS_NO_ACCOUNT,
+                                                   "one side of diff, to be read by velshop alone",
+                                                   "",
+                                                   "",
+                                                   readAndRun(readSnapshotArguments, takeSnapshot)}};
+    return commands;
 }
 
 } // namespace
@@ -181,6 +199,21 @@ const QVector<VelshopCommand>& VelshopCommands::all()
          "The exit code is 0 without errors and warnings, 1 with some, and 2 when a document can't be read.",
          "velshop audit --account shop-small",
          readAndRun(readAuditArguments, auditAccount)},
+        {"diff",
+         "OLD NEW",
+         {},
+         {STR_CART, STR_HTML},
+         shared(),
+         OPENS_NO_ACCOUNT,
+         "what changed from one price list or account to another, by effect",
+         "OLD and NEW are folders of accounts, or price lists beside the other documents of --account. Told are "
+         "articles, "
+         "add-ons and fees that came or went, the quantities up to 100,000 whose total changed, every other field that "
+         "is read otherwise, the conditions of the shop, and what carts come to. What is written another way and read "
+         "alike is no difference.\n"
+         "The exit code is 0 without a difference, 1 with one, and 2 when a document can't be read.",
+         "velshop diff shop shop-small --cart cart.json",
+         readAndRun(readDiffArguments, compareShops)},
         {"schema",
          "DIR",
          {},
@@ -198,9 +231,10 @@ const QVector<VelshopCommand>& VelshopCommands::all()
 
 const VelshopCommand* VelshopCommands::find(const QString& theName)
 {
-    for (const VelshopCommand& command : all())
-        if (theName == QLatin1String(command.myName))
-            return &command;
+    for (const QVector<VelshopCommand>* commands : {&all(), &internal()})
+        for (const VelshopCommand& command : *commands)
+            if (theName == QLatin1String(command.myName))
+                return &command;
     return nullptr;
 }
 

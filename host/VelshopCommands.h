@@ -10,7 +10,7 @@ namespace VelshopCommands {
 /// All commands, in the order in which help lists them.
 const QVector<VelshopCommand>& all();
 
-/// The command of a name; null when there is none.
+/// The command of a name, or one that velshop starts itself with and that help doesn't list; null when there is none.
 const VelshopCommand* find(const QString& theName);
 
 /// What velshop is, in sentences.

@@ -26,6 +26,7 @@ const QVector<VelshopOption>& VelshopOptions::all()
         {STR_VIDEOS, QStringLiteral("N"), QStringLiteral("Areas with a video.")},
         {STR_TEMPLATE, QStringLiteral("CLASS=N"), QStringLiteral("Uses of templates of a price class."), true},
         {STR_HTML, QStringLiteral("FILE"), QStringLiteral("Write a page, to read in a browser and to print.")},
+        {STR_CART, QStringLiteral("FILE"), QStringLiteral("Compare what this cart comes to, too."), true},
         {STR_DISCOUNTS, QStringLiteral("FILE"), QStringLiteral("Write the description of the discounts as XML.")},
         {STR_TO, QStringLiteral("N"),
          QStringLiteral("The last quantity, 100000 at most, or sum in cents; by default ten beyond the start of the "

@@ -34,6 +34,7 @@ inline const QString STR_MAPS = QStringLiteral("maps");
 inline const QString STR_VIDEOS = QStringLiteral("videos");
 inline const QString STR_TEMPLATE = QStringLiteral("template");
 inline const QString STR_HTML = QStringLiteral("html");
+inline const QString STR_CART = QStringLiteral("cart");
 inline const QString STR_DISCOUNTS = QStringLiteral("discounts");
 inline const QString STR_TO = QStringLiteral("to");
 inline const QString STR_LEVEL = QStringLiteral("level");

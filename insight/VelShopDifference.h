@@ -14,7 +14,7 @@ struct VelShopEntryChange
 };
 
 /// A cart that comes to something else.
-struct VelShopCartChange
+struct VELINSIGHT_EXPORT VelShopCartChange
 {
     /// A term that differs; one of kind, group and article stands on both sides or on one.
     struct Term

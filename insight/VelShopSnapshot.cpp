@@ -47,8 +47,7 @@ VelShopEntry productEntry(const VelProductAbstract& theProduct)
 
 VelShopEntry feeEntry(const VelShopFees::Fee& theFee)
 {
-    VelShopEntry entry =
-        entryOf(*theFee.myProduct, kindOf(theFee.myKind), VelShopFees::keyModel(theFee.myKind));
+    VelShopEntry entry = entryOf(*theFee.myProduct, kindOf(theFee.myKind), VelShopFees::keyModel(theFee.myKind));
     entry.myGroup = theFee.myGroup;
     entry.myPayment = theFee.myPayment;
     entry.myExpress = theFee.myExpress;
@@ -164,14 +163,15 @@ static QDataStream& operator>>(QDataStream& theStream, VelShopEntry& theEntry)
 static QDataStream& operator<<(QDataStream& theStream, const VelShopTerm& theTerm)
 {
     return theStream << number(theTerm.myKind) << theTerm.myGroup << theTerm.myArticle << theTerm.myName
-                     << theTerm.myCount << theTerm.myAmount << theTerm.myHasPrice << theTerm.myComputed << theTerm.myReason;
+                     << theTerm.myCount << theTerm.myAmount << theTerm.myHasPrice << theTerm.myComputed
+                     << theTerm.myReason;
 }
 
 static QDataStream& operator>>(QDataStream& theStream, VelShopTerm& theTerm)
 {
     readEnum(theStream, theTerm.myKind);
-    return theStream >> theTerm.myGroup >> theTerm.myArticle >> theTerm.myName >> theTerm.myCount >>
-           theTerm.myAmount >> theTerm.myHasPrice >> theTerm.myComputed >> theTerm.myReason;
+    return theStream >> theTerm.myGroup >> theTerm.myArticle >> theTerm.myName >> theTerm.myCount >> theTerm.myAmount >>
+           theTerm.myHasPrice >> theTerm.myComputed >> theTerm.myReason;
 }
 
 static QDataStream& operator<<(QDataStream& theStream, const VelShopCart& theCart)

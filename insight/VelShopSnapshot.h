@@ -10,14 +10,14 @@
 #include <QVector>
 
 /// An article, an add-on or a fee of a shop.
-struct VelShopEntry
+struct VELINSIGHT_EXPORT VelShopEntry
 {
     enum Kind { ARTICLE, ADD_ON, TRANSFER, PAYMENT_FEE, EXPRESS_FEE };
 
     Kind myKind = ARTICLE;
-    int myArticle = 0;                             ///< the article id
-    int myGroup = VelShopPlace::NONE;              ///< the shipping group that a transfer or an express fee serves
-    VelPaymentType myPayment = PAYMENT_TYPE_UNKNOWN;        ///< of a payment fee
+    int myArticle = 0;                               ///< the article id
+    int myGroup = VelShopPlace::NONE;                ///< the shipping group that a transfer or an express fee serves
+    VelPaymentType myPayment = PAYMENT_TYPE_UNKNOWN; ///< of a payment fee
     VelExpressTypeEnum myExpress = ExpressableType_UNKNOWN; ///< of an express fee
     QString myName;
     bool myIsByProducts = false;     ///< of a shipping that the products of an order are charged for: it has no totals
@@ -30,7 +30,7 @@ struct VelShopEntry
 };
 
 /// One amount of a bill, as VelPriceExplanation tells it.
-struct VelShopTerm
+struct VELINSIGHT_EXPORT VelShopTerm
 {
     VelExplainedTerm::Kind myKind = VelExplainedTerm::ITEM;
     int myGroup = VelShopPlace::NONE; ///< id of the shipping group

@@ -75,8 +75,7 @@ public:
         }
         const qint64 distance = static_cast<qint64>(theOld.myFirst) - theNew.myFirst;
         const qint64 closing = static_cast<qint64>(theNew.myPerPiece) - theOld.myPerPiece;
-        if (closing == 0 || distance % closing != 0 || distance / closing < 0 ||
-            distance / closing > theTo - theFrom) {
+        if (closing == 0 || distance % closing != 0 || distance / closing < 0 || distance / closing > theTo - theFrom) {
             if (distance != 0 || closing != 0)
                 append(theFrom, theTo, theOld, theNew);
             return;
@@ -124,9 +123,10 @@ const Runs& runsAt(const VelShopEntry& theEntry, const VelShopTotals& theWanted)
 Runs runsOf(const VelShopEntry& theEntry, const VelShopTotals& theWanted)
 {
     const bool isBySum = theWanted.myVariable == VelPriceCurve::BY_SUM;
-    const bool isTold = std::any_of(
-        theEntry.myTotals.cbegin(), theEntry.myTotals.cend(),
-        [&](const VelShopTotals& theTotals) { return theTotals.isOf(theWanted.mySource, theWanted.myVariable); });
+    const bool isTold =
+        std::any_of(theEntry.myTotals.cbegin(), theEntry.myTotals.cend(), [&](const VelShopTotals& theTotals) {
+            return theTotals.isOf(theWanted.mySource, theWanted.myVariable);
+        });
     if (!isBySum || isTold)
         return runsAt(theEntry, theWanted);
     VelShopTotals byQuantity = theWanted;
@@ -151,10 +151,10 @@ QVector<VelShopTotals> wantedOf(const VelShopEntry& theOld, const VelShopEntry& 
     std::sort(wanted.begin(), wanted.end(), [&](const VelShopTotals& theLeft, const VelShopTotals& theRight) {
         return key(theLeft) < key(theRight);
     });
-    const auto end = std::unique(wanted.begin(), wanted.end(), [&](const VelShopTotals& theLeft,
-                                                                   const VelShopTotals& theRight) {
-        return key(theLeft) == key(theRight);
-    });
+    const auto end =
+        std::unique(wanted.begin(), wanted.end(), [&](const VelShopTotals& theLeft, const VelShopTotals& theRight) {
+            return key(theLeft) == key(theRight);
+        });
     wanted.erase(end, wanted.end());
     return wanted;
 }
