@@ -33,6 +33,7 @@ const Comparison COMPARISONS[] = {
     {"load", "bareParse", Bound::AT_MOST, 1.4},
     {"allCurves", "load", Bound::AT_MOST, 0.5},
     {"allGaps", "load", Bound::AT_MOST, 0.1},
+    {"halfOfDifference", "load", Bound::AT_MOST, 0.5},
     {"reloadObjects", "bareParse", Bound::AT_MOST, 0.35},
     {"reload", "bareParse", Bound::NONE, 0},
     {"audit", "load", Bound::AT_MOST, 3},

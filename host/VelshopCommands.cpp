@@ -248,7 +248,7 @@ const QVector<VelshopCommands::ExitMeaning>& VelshopCommands::exitMeanings()
 {
     static const QVector<ExitMeaning> meanings{
         {EXIT_DONE, "done"},
-        {EXIT_NO_PRICE, "there is no price, the order can't be placed, or the audit found something"},
+        {EXIT_NO_PRICE, "there is no price, the order can't be placed, the audit found something, or shops differ"},
         {EXIT_BAD_INPUT, "a wrong argument or an unreadable document"}};
     return meanings;
 }

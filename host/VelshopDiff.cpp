@@ -63,6 +63,7 @@ bool readDiffArguments(const VelshopCommandLine& theLine, VelshopDiffArguments& 
     theArguments.myOld = theLine.words().at(0);
     theArguments.myNew = theLine.words().at(1);
     theArguments.myCarts = theLine.values(VelshopOptions::STR_CART);
+    theArguments.myCarts.removeDuplicates();
     for (const QString& file : QStringList{theArguments.myOld, theArguments.myNew} + theArguments.myCarts)
         if (theError.isEmpty() && !QFileInfo::exists(file))
             theError = {file, 0, 0, QStringLiteral("there is no such file or folder")};

@@ -106,6 +106,23 @@ bool areAlike(const VelTotalsChange& theLeft, const VelTotalsChange& theRight)
                       });
 }
 
+/// What changed alike by several order sources stands together, where the first of it stood.
+template <typename Change>
+QVector<QVector<Change>> gathered(const QVector<Change>& theChanges)
+{
+    QVector<QVector<Change>> groups;
+    for (const Change& change : theChanges) {
+        const auto group = std::find_if(groups.begin(), groups.end(), [&](const QVector<Change>& theGroup) {
+            return areAlike(theGroup.first(), change);
+        });
+        if (group == groups.end())
+            groups.append(QVector<Change>{change});
+        else
+            group->append(change);
+    }
+    return groups;
+}
+
 /// As "0,10 € each", "9,90 € in all", or "9,99 €, each further 0,09 €".
 QString lineText(const VelTotalsInterval& theInterval, const VelTotalsInterval::Line& theLine,
                  const VelCurrency& theCurrency)
@@ -216,21 +233,16 @@ QString VelshopDiffWords::value(const QString& theName, const QVariant& theValue
 QVector<VelshopDiffWords::Row> VelshopDiffWords::rows(const QVector<VelShopFieldChange>& theChanges) const
 {
     QVector<Row> rows;
-    QVector<bool> isTold(theChanges.size(), false);
-    for (int index = 0; index < theChanges.size(); ++index) {
-        if (isTold.at(index))
-            continue;
-        const VelShopFieldChange& change = theChanges.at(index);
-        QStringList sources;
-        for (int other = index; other < theChanges.size(); ++other)
-            if (!isTold.at(other) && areAlike(change, theChanges.at(other))) {
-                sources.append(sourceText(theChanges.at(other).myPlace));
-                isTold[other] = true;
-            }
+    for (const QVector<VelShopFieldChange>& alike : gathered(theChanges)) {
+        const VelShopFieldChange& change = alike.first();
         QStringList name{placeText(change.myPlace), change.myName};
         name.removeAll(QString());
-        if (!sources.isEmpty())
+        if (hasSource(change.myPlace)) {
+            QStringList sources;
+            for (const VelShopFieldChange& each : alike)
+                sources.append(sourceText(each.myPlace));
             name.append(QStringLiteral("by ") + sources.join(QStringLiteral("; ")));
+        }
         rows.append({name.join(QLatin1Char(' ')), value(change.myName, change.myOld, myOldCurrency),
                      value(change.myName, change.myNew, myNewCurrency)});
     }
@@ -256,21 +268,14 @@ VelshopDiffWords::Row VelshopDiffWords::row(const VelTotalsInterval& theInterval
 QVector<VelshopDiffWords::Totals> VelshopDiffWords::totals(const QVector<VelTotalsChange>& theChanges) const
 {
     QVector<Totals> totals;
-    QVector<bool> isTold(theChanges.size(), false);
-    for (int index = 0; index < theChanges.size(); ++index) {
-        if (isTold.at(index))
-            continue;
-        const VelTotalsChange& change = theChanges.at(index);
+    for (const QVector<VelTotalsChange>& alike : gathered(theChanges)) {
+        const VelTotalsChange& change = alike.first();
         QStringList sources;
-        for (int other = index; other < theChanges.size(); ++other)
-            if (!isTold.at(other) && areAlike(change, theChanges.at(other))) {
-                sources.append(VelshopWords::orderSource(theChanges.at(other).mySource));
-                isTold[other] = true;
-            }
-        Totals alike{totalsTitle(change, sources), {}};
+        for (const VelTotalsChange& each : alike)
+            sources.append(VelshopWords::orderSource(each.mySource));
+        totals.append({totalsTitle(change, sources), {}});
         for (const VelTotalsInterval& interval : change.myIntervals)
-            alike.myRows.append(row(interval, change.myVariable == VelPriceCurve::BY_SUM));
-        totals.append(alike);
+            totals.last().myRows.append(row(interval, change.myVariable == VelPriceCurve::BY_SUM));
     }
     return totals;
 }
