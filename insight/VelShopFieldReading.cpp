@@ -3,6 +3,7 @@
 #include "insight/VelVocabularies.h"
 #include "price/VelTarmPriceBand.h"
 #include "price/VelTarmPriceView.h"
+#include "product/VelPrintResolutions.h"
 #include "product/VelProductAddOn.h"
 #include "product/VelProductPrintFun.h"
 
@@ -119,8 +120,9 @@ private:
         add(STR_WIDTH, myProduct.printSizeInMM().width());
         add(STR_HEIGHT, myProduct.printSizeInMM().height());
         add(STR_DPI, myProduct.printDPI());
-        add(STR_DPI_GREEN, myProduct.dpiForGreen());
-        add(STR_DPI_YELLOW, myProduct.dpiForYellow());
+        const VelPrintResolutions resolutions(myProduct);
+        add(STR_DPI_GREEN, resolutions.green());
+        add(STR_DPI_YELLOW, resolutions.yellow());
     }
 
     /// Each line by its key; a line without one as it stands.

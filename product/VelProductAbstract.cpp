@@ -284,16 +284,6 @@ int VelProductAbstract::qualityOnScaleForPPMM(double thePPMM) const
     return myArticle->qualityOnScaleForPPMM(thePPMM);
 }
 
-int VelProductAbstract::dpiForGreen() const
-{
-    return myArticle->dpiForGreen();
-}
-
-int VelProductAbstract::dpiForYellow() const
-{
-    return myArticle->dpiForYellow();
-}
-
 QDebug operator<<(QDebug theDebug, const VelProductAbstract& theProduct)
 {
     theDebug << "Name : " << theProduct.name();

@@ -208,11 +208,6 @@ public:
     /// Rates an image of so many pixels per millimetre: -1 not rated (0 or below), 0 red, 1 yellow, 2 green.
     int qualityOnScaleForPPMM(double thePPMM) const;
 
-    /// Attribute `dpi_green` of the print size: the lowest resolution that is rated green, 150 by default.
-    int dpiForGreen() const;
-    /// Attribute `dpi_yellow` of the print size: the lowest resolution that is rated yellow, 90 by default.
-    int dpiForYellow() const;
-
     /// The one product that stands for none: deprecated, without a class. Built on first use without a lock, never
     /// freed.
     static VelProductAbstract* nullProduct();
