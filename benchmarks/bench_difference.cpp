@@ -2,6 +2,8 @@
 #include "insight/VelShopDifference.h"
 #include "sibling/VelDirectoryConfig.h"
 
+#include <QDataStream>
+
 #include <benchmark/benchmark.h>
 
 namespace {
@@ -16,9 +18,11 @@ void halfOfDifference(benchmark::State& theState)
     PriceListFile::load(static_cast<int>(theState.range(0)));
     for (auto _ : theState) {
         QByteArray bytes;
-        QDataStream(&bytes, QIODevice::WriteOnly) << VelShopSnapshot::taken();
+        QDataStream out(&bytes, QIODevice::WriteOnly);
+        out << VelShopSnapshot::taken();
         VelShopSnapshot snapshot;
-        QDataStream(bytes) >> snapshot;
+        QDataStream in(bytes);
+        in >> snapshot;
         const VelShopDifference difference(snapshot, snapshot);
         if (!difference.isEmpty() || snapshot.entries().size() < theState.range(0))
             theState.SkipWithError("a shop differs from itself");

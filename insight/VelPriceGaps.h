@@ -54,6 +54,7 @@ public:
             false; ///< whether the quantities are bill sums in cents: shipping that no count has a price for
         QVector<Hole> myHoles; ///< by rising quantity
 
+        /// Whether any quantity has a price.
         bool isPriced() const { return myFrom > 0; }
         /// Whether each quantity has a price.
         bool isWhole() const { return myFrom == 1 && myUpTo == 0 && myHoles.isEmpty(); }
@@ -62,23 +63,23 @@ public:
     /// A column of the map.
     struct Way
     {
-        VelOrderSource mySource;
-        bool myIsOffered; ///< whether the ordering details list it
+        VelOrderSource mySource; ///< by which is ordered
+        bool myIsOffered;        ///< whether the ordering details list it
     };
 
     /// An article or add-on that is in the price list, with a cell for each way.
     struct Row
     {
-        const VelProductAbstract* myProduct;
-        QVector<Cell> myCells;
+        const VelProductAbstract* myProduct; ///< the registry's
+        QVector<Cell> myCells;               ///< one for each way
     };
 
     /// A fee with a cell for each way. Without a product: the shipping of a group that has articles, a payment that an
     /// order source permits, or an express type that articles of a group can be had by, and for which there is no fee.
     struct FeeRow
     {
-        VelShopFees::Fee myFee;
-        QVector<Cell> myCells;
+        VelShopFees::Fee myFee; ///< whose shipping, payment or express it is
+        QVector<Cell> myCells;  ///< one for each way
     };
 
     /// Of the whole shop, for quantities from 1 to VelPriceCurve::HIGHEST_QUANTITY.

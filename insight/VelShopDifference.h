@@ -7,10 +7,10 @@
 /// An article, an add-on or a fee of both shops that isn't the same any more.
 struct VelShopEntryChange
 {
-    VelShopEntry myOld; ///< with all fields and totals
-    VelShopEntry myNew;
-    QVector<VelShopFieldChange> myFields;
-    QVector<VelTotalsChange> myTotals;
+    VelShopEntry myOld;                   ///< with all fields and totals
+    VelShopEntry myNew;                   ///< with all fields and totals
+    QVector<VelShopFieldChange> myFields; ///< that differ
+    QVector<VelTotalsChange> myTotals;    ///< that differ
 };
 
 /// A cart that comes to something else.
@@ -19,16 +19,17 @@ struct VELINSIGHT_EXPORT VelShopCartChange
     /// A term that differs; one of kind, group and article stands on both sides or on one.
     struct Term
     {
-        bool myIsInOld = false;
-        bool myIsInNew = false;
-        VelShopTerm myOld;
-        VelShopTerm myNew;
+        bool myIsInOld = false; ///< whether it stood in the bill before
+        bool myIsInNew = false; ///< whether it stands there now
+        VelShopTerm myOld;      ///< of no meaning where it didn't
+        VelShopTerm myNew;      ///< of no meaning where it doesn't
     };
 
-    VelShopCart myOld;
-    VelShopCart myNew;
+    VelShopCart myOld;     ///< before
+    VelShopCart myNew;     ///< now
     QVector<Term> myTerms; ///< none where the carts come to the same
 
+    /// Whether both come to the same.
     bool isEmpty() const;
 };
 
@@ -43,6 +44,7 @@ struct VELINSIGHT_EXPORT VelShopCartChange
 class VELINSIGHT_EXPORT VelShopDifference
 {
 public:
+    /// Compares two shops, of which both may be gone afterwards.
     VelShopDifference(const VelShopSnapshot& theOld, const VelShopSnapshot& theNew);
 
     /// Whether there is none. Carts without any are no difference.

@@ -20,6 +20,7 @@ struct VelShopPlace
     VelDiscountModel myDiscountModel = DISCOUNT_MODEL_UNDEFINED; ///< undefined where it doesn't matter
     int myDiscountLevel = NONE;                                  ///< of the band
 
+    /// Of an order source.
     static VelShopPlace of(const VelOrderSource& theSource)
     {
         VelShopPlace place;
@@ -27,6 +28,7 @@ struct VelShopPlace
         place.myDeliveryType = theSource.deliveryType();
         return place;
     }
+    /// Of an element of a document, by its id where it has one.
     static VelShopPlace of(const QString& theElement, int theId = NONE)
     {
         VelShopPlace place;
@@ -35,6 +37,7 @@ struct VelShopPlace
         return place;
     }
 
+    /// All parts alike.
     bool operator==(const VelShopPlace& theOther) const
     {
         return myId == theOther.myId && myInputSource == theOther.myInputSource &&
@@ -53,6 +56,7 @@ struct VelShopField
     /// A list of what other fields tell about: only the order of what stands on both sides counts.
     bool myIsOrder = false;
 
+    /// Whether both tell of the same thing, whatever its value.
     bool isSameAs(const VelShopField& theOther) const
     {
         return myName == theOther.myName && myPlace == theOther.myPlace;
@@ -62,10 +66,10 @@ struct VelShopField
 /// A field whose reading differs. A value that isn't there is an invalid QVariant.
 struct VelShopFieldChange
 {
-    QString myName;
-    VelShopPlace myPlace;
-    QVariant myOld;
-    QVariant myNew;
+    QString myName;       ///< as in VelShopField
+    VelShopPlace myPlace; ///< as in VelShopField
+    QVariant myOld;       ///< what was read before
+    QVariant myNew;       ///< what is read now
 };
 
 #endif

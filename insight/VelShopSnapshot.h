@@ -12,18 +12,20 @@
 /// An article, an add-on or a fee of a shop.
 struct VELINSIGHT_EXPORT VelShopEntry
 {
+    /// What it is.
     enum Kind { ARTICLE, ADD_ON, TRANSFER, PAYMENT_FEE, EXPRESS_FEE };
 
-    Kind myKind = ARTICLE;
+    Kind myKind = ARTICLE;                           ///< what it is
     int myArticle = 0;                               ///< the article id
     int myGroup = VelShopPlace::NONE;                ///< the shipping group that a transfer or an express fee serves
     VelPaymentType myPayment = PAYMENT_TYPE_UNKNOWN; ///< of a payment fee
     VelExpressTypeEnum myExpress = ExpressableType_UNKNOWN; ///< of an express fee
-    QString myName;
+    QString myName;                                         ///< as the document has it
     bool myIsByProducts = false;     ///< of a shipping that the products of an order are charged for: it has no totals
     QVector<VelShopField> myFields;  ///< all that was read, but prices
     QVector<VelShopTotals> myTotals; ///< by order source, each that may have a price
 
+    /// Whether it is charged by a bill rather than bought.
     bool isFee() const { return myKind > ADD_ON; }
     /// Orders by what tells one from another: articles and add-ons by their id, fees by what they are charged for.
     bool isBefore(const VelShopEntry& theOther) const;
@@ -32,15 +34,15 @@ struct VELINSIGHT_EXPORT VelShopEntry
 /// One amount of a bill, as VelPriceExplanation tells it.
 struct VELINSIGHT_EXPORT VelShopTerm
 {
-    VelExplainedTerm::Kind myKind = VelExplainedTerm::ITEM;
-    int myGroup = VelShopPlace::NONE; ///< id of the shipping group
-    int myArticle = 0;                ///< id of the article, also of a fee; 0 for coupon and floor
-    QString myName;                   ///< of the article; of a coupon its code
-    int myCount = 0;                  ///< pieces; of a fee those that it is reckoned for
-    int myAmount = 0;                 ///< cents, -1 where there is no price
-    bool myHasPrice = true;
-    QString myComputed; ///< as "1 x 990 + 20 x 9", in cents
-    QString myReason;   ///< why, in words
+    VelExplainedTerm::Kind myKind = VelExplainedTerm::ITEM; ///< what the amount is for
+    int myGroup = VelShopPlace::NONE;                       ///< id of the shipping group
+    int myArticle = 0;      ///< id of the article, also of a fee; 0 for coupon and floor
+    QString myName;         ///< of the article; of a coupon its code
+    int myCount = 0;        ///< pieces; of a fee those that it is reckoned for
+    int myAmount = 0;       ///< cents, -1 where there is no price
+    bool myHasPrice = true; ///< whether there is one
+    QString myComputed;     ///< as "1 x 990 + 20 x 9", in cents
+    QString myReason;       ///< why, in words
 
     /// Whether both are the amount of the same thing; a fee may be another article.
     bool isSameAs(const VelShopTerm& theOther) const;
@@ -49,10 +51,10 @@ struct VELINSIGHT_EXPORT VelShopTerm
 /// What a cart comes to in the shop.
 struct VelShopCart
 {
-    QString myName;
-    QString myReason;   ///< why it can't be ordered, empty if it can
-    qint64 myTotal = 0; ///< cents; of no meaning if it can't be ordered
-    QVector<VelShopTerm> myTerms;
+    QString myName;               ///< as the caller gave it
+    QString myReason;             ///< why it can't be ordered, empty if it can
+    qint64 myTotal = 0;           ///< cents; of no meaning if it can't be ordered
+    QVector<VelShopTerm> myTerms; ///< of all bills
 };
 
 /**

@@ -31,11 +31,12 @@ Q_DECLARE_TYPEINFO(VelTotalsRun, Q_PRIMITIVE_TYPE);
 /// What an article or a fee comes to by one order source.
 struct VelShopTotals
 {
-    VelOrderSource mySource = VelOrderSource::onlineMailOrder();
-    VelPriceCurve::Variable myVariable = VelPriceCurve::BY_QUANTITY;
+    VelOrderSource mySource = VelOrderSource::onlineMailOrder();     ///< by which is ordered
+    VelPriceCurve::Variable myVariable = VelPriceCurve::BY_QUANTITY; ///< what runs along
     int myLevel = 0;              ///< the level of the main product that an add-on inherits
     QVector<VelTotalsRun> myRuns; ///< by rising quantity; those without a price stand in none
 
+    /// Whether they are those of that order source and variable.
     bool isOf(const VelOrderSource& theSource, VelPriceCurve::Variable theVariable) const
     {
         return mySource == theSource && myVariable == theVariable;
@@ -48,24 +49,24 @@ struct VelTotalsInterval
     /// A straight line; none where the quantities have no price.
     struct Line
     {
-        bool myHasPrice = false;
-        int myFirst = 0;    ///< total of the interval's first quantity, in cents
-        int myPerPiece = 0; ///< cents that each further one adds
+        bool myHasPrice = false; ///< whether there is one
+        int myFirst = 0;         ///< total of the interval's first quantity, in cents
+        int myPerPiece = 0;      ///< cents that each further one adds
     };
 
     int myFrom; ///< the first quantity, or the first bill sum in cents
     int myTo;   ///< the last one, included
-    Line myOld;
-    Line myNew;
+    Line myOld; ///< before
+    Line myNew; ///< now
 };
 
 /// The changed totals by one order source.
 struct VelTotalsChange
 {
-    VelOrderSource mySource = VelOrderSource::onlineMailOrder();
-    VelPriceCurve::Variable myVariable = VelPriceCurve::BY_QUANTITY;
-    int myLevel = 0; ///< the level of the main product that an add-on inherits
-    QVector<VelTotalsInterval> myIntervals;
+    VelOrderSource mySource = VelOrderSource::onlineMailOrder();     ///< by which is ordered
+    VelPriceCurve::Variable myVariable = VelPriceCurve::BY_QUANTITY; ///< what runs along
+    int myLevel = 0;                        ///< the level of the main product that an add-on inherits
+    QVector<VelTotalsInterval> myIntervals; ///< by rising quantity
 };
 
 #endif

@@ -37,7 +37,7 @@ QByteArray rewritten(const QString& theFile)
     QDomDocument document;
     document.setContent(content(theFile).toUtf8());
     reverse(document.documentElement());
-    return document.toByteArray(7).replace("days=\"3-5\"", "days=\"3 bis 5, also 3-5\"").replace("\"false\"", "\"0\"");
+    return document.toByteArray(7).replace("days=\"3-5\"", "days=\"ca. 3-5 Tage\"").replace("\"false\"", "\"0\"");
 }
 
 VelshopAnswer diff(const QString& theOld, const QString& theNew, const QStringList& theOptions = {})
@@ -89,7 +89,7 @@ private slots:
             pages         | pricelist.xml       | max_pages="98"                  | max_pages="106"                 | max_pages: [98] > [106]
             group         | pricelist.xml       | group="1" arrangement           | group="2" arrangement           | group: [1] > [2]
             flag          | orderingdetails.xml | <doi>true</doi>                 | <doi>no</doi>                   | doi: [true] > [false]
-            payment       | orderingdetails.xml | name="Rechnung" blockable       | name="Kauf auf Rechnung" blockable | name: ["Rechnung"] > ["Kauf auf Rechnung"]
+            payment       | orderingdetails.xml | name="Rechnung" blockable="true" | name="Rechnung" blockable="false" | blockable: [true] > [false]
             currency      | currencies.xml      | <decimalsep>,</decimalsep>      | <decimalsep>.</decimalsep>      | decimalsep: [","] > ["."]
         )");
     }

@@ -5,11 +5,13 @@
 #include "product/VelProductAbstract.h"
 #include "product/VelProductRegistry.h"
 #include "sibling/VelDirectoryConfig.h"
+#include "sibling/VelKeyAccount.h"
 #include "sibling/VelXMLLoader.h"
 #include "support/VelTestMain.h"
 #include "support/VelTestMessages.h"
 
 #include <QBuffer>
+#include <QDataStream>
 
 namespace {
 
@@ -80,11 +82,12 @@ Totals changed(Totals theOld, const QVector<VelTotalsChange>& theChanges, QStrin
 VelShopSnapshot sent(const VelShopSnapshot& theSnapshot)
 {
     QByteArray bytes;
-    QDataStream(&bytes, QIODevice::WriteOnly) << theSnapshot;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out << theSnapshot;
     VelShopSnapshot snapshot;
-    QDataStream stream(bytes);
-    stream >> snapshot;
-    return stream.status() == QDataStream::Ok && stream.atEnd() ? snapshot : VelShopSnapshot();
+    QDataStream in(bytes);
+    in >> snapshot;
+    return in.status() == QDataStream::Ok && in.atEnd() ? snapshot : VelShopSnapshot();
 }
 
 VelShopSnapshot read(const QDomElement& theRoot)
