@@ -61,7 +61,7 @@ QVector<Allowance> allowancesOf(const VelAuditDocument& theDocument, VelAuditRep
         const VelDocumentPlace place = positions.text().place(comment.myOffset);
         const QString fault = faultOf(match, comment.myElement);
         if (!fault.isNull())
-            theReport.at(BAD_ALLOWANCE, theDocument, place, comment.myText.size() + 7, fault);
+            theReport.at(BAD_ALLOWANCE, theDocument, place, static_cast<int>(comment.myText.size()) + 7, fault);
         else
             allowances.append({place, match.captured(1), positions.element(comment.myElement),
                                positions.element(positions.endOfElement(comment.myElement))});

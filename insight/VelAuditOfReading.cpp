@@ -37,7 +37,7 @@ void checkEncoding(const VelAuditDocument& theDocument, VelAuditReport& theRepor
 {
     const VelDocumentText& text = theDocument.myContent.text();
     if (!text.isEncodingKnown())
-        theReport.at(UNKNOWN_ENCODING, theDocument, text.encodingPlace(), text.encodingName().size(),
+        theReport.at(UNKNOWN_ENCODING, theDocument, text.encodingPlace(), static_cast<int>(text.encodingName().size()),
                      QStringLiteral("there is no encoding %1; UTF-8 is read")
                          .arg(VelAuditWords::withSuggestion(text.encodingName(), encodings())));
 }
