@@ -361,7 +361,7 @@ private slots:
             comma in a price    | pricelist.xml       | price="890"                            | price="8,90"                           | 8,90           | not-a-number
             point in a price    | pricelist.xml       | price="790"                            | price="0.13"                           | 0.13           | not-a-number
             comma in a quantity | pricelist.xml       | quantity="5" price="790"               | quantity="3,0" price="790"             | 3,0            | not-a-number
-            levels upside down  | pricelist.xml       | level="2" quantity="200" price="6"     | level="2" quantity="20" price="6"      | 20             | levels-not-rising
+            levels upside down  | pricelist.xml       | level="2" quantity="200" price="6"     | level="2" quantity="20" price="6"      | 20"            | levels-not-rising
             duplicate id        | pricelist.xml       | id="151" name                          | id="152" name                          | 152            | duplicate-id
             link to nothing     | pricelist.xml       | linked_article id="9181"               | linked_article id="9999"               | 9999           | broken-link
             arrangement poster  | pricelist.xml       | group="41" arrangement="trivial"       | group="41" arrangement="poster"        | poster         | unknown-word
@@ -376,7 +376,7 @@ private slots:
             TYP for TYPE        | pricelist.xml       | TYPE=ALB6                              | TYP=ALB6                               | TYP=           | order-text-slip
             unknown book        | pricelist.xml       | id="9181" name                         | id="9182" name                         | 9182           | unknown-book
             pay_method_id       | pricelist.xml       | pay_method_id="14"                     | pay_methodid="14"                      | pay_methodid   | unknown-attribute
-            transfer, no group  | pricelist.xml       | group="7" model                        | group="9" model                        | 9"             | fee-without-articles
+            transfer, no group  | pricelist.xml       | group="7" model                        | group="9" model                        | 9"             | unknown-group
             B in a transfer     | pricelist.xml       | type="F"                               | type="B"                               | B"             | unknown-word
             Latin-1 bytes       | orderingdetails.xml | Crowncard                              | Cröwncard                              | -              | bad-bytes
             dear coupon         | coupons/c.xml       | price="-500"                           | price="5000"                           | 5000           | coupon-adds
