@@ -361,7 +361,7 @@ private slots:
             comma in a price    | pricelist.xml       | price="890"                            | price="8,90"                           | 8,90           | not-a-number
             point in a price    | pricelist.xml       | price="790"                            | price="0.13"                           | 0.13           | not-a-number
             comma in a quantity | pricelist.xml       | quantity="5" price="790"               | quantity="3,0" price="790"             | 3,0            | not-a-number
-            levels upside down  | pricelist.xml       | level="2" quantity="200" price="6"     | level="2" quantity="20" price="6"      | 20"            | levels-not-rising
+            levels upside down  | pricelist.xml       | level="2" quantity="200" price="6"     | level="2" quantity="20" price="6"      | 20             | levels-not-rising
             duplicate id        | pricelist.xml       | id="151" name                          | id="152" name                          | 152            | duplicate-id
             link to nothing     | pricelist.xml       | linked_article id="9181"               | linked_article id="9999"               | 9999           | broken-link
             arrangement poster  | pricelist.xml       | group="41" arrangement="trivial"       | group="41" arrangement="poster"        | poster         | unknown-word
