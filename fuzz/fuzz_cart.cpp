@@ -25,7 +25,8 @@ void copyCoupons()
 
 int askBills(const VelshopCart& theCart)
 {
-    for (const VelTarmOrderBill& bill : VelTarmOrder(theCart.myItems, theCart.myStatus, theCart.myExpress).bills())
+    const VelTarmOrder order(theCart.myItems, theCart.myStatus, theCart.myExpress); // owns the bills
+    for (const VelTarmOrderBill& bill : order.bills())
         askBill(bill.bill());
     int pieces = 0;
     for (const int count : theCart.myItems.items())
