@@ -33,6 +33,11 @@ QJsonValue orNull(const PriceInBand& thePrice)
     return thePrice.hasPrice() ? QJsonValue(thePrice.myPrice) : QJsonValue();
 }
 
+QString priceText(const PriceInBand& thePrice)
+{
+    return thePrice.hasPrice() ? VelshopWords::money(thePrice.myPrice) : QStringLiteral("-");
+}
+
 /// The products of the group that have exactly this band, with their prices in it.
 QList<PriceInBand> pricesIn(const VelDiscountLimit& theBand, int theGroup, const VelTarmPriceKey& theKey)
 {
@@ -70,8 +75,7 @@ void addRows(const VelDiscountLimit& theBand, const QList<PriceInBand>& thePrice
     for (const PriceInBand& price : thePrices)
         theTable.add({VelshopWords::discountModel(theBand.discountModel()), QString::number(theBand.level()),
                       VelshopWords::band(theBand), QString::number(price.myProduct->articleID()),
-                      price.myProduct->name(),
-                      price.hasPrice() ? VelshopWords::money(price.myPrice) : QStringLiteral("-")});
+                      price.myProduct->name(), priceText(price)});
 }
 
 // ---- fees
@@ -156,7 +160,7 @@ void printFees(int theGroup, const VelTarmPriceKey& theKey, QTextStream& theOutp
         else
             for (const VelDiscountLimit& band : sortedBands(*fee.myProduct, theKey))
                 addRow(fee, QString::number(band.level()), feeBandText(band),
-                       VelshopWords::money(fee.myProduct->priceAtBound(theKey, band)), table);
+                       priceText({fee.myProduct, fee.myProduct->priceAtBound(theKey, band)}), table);
     }
     if (table.isEmpty())
         return;

@@ -137,7 +137,7 @@ const QVector<VelshopCommand>& VelshopCommands::all()
          {},
          shared(),
          OPENS_ACCOUNT,
-         "the whole shop as a page: conditions, articles with their prices, fees, findings",
+         "the whole shop as a page: conditions, articles with their prices, fees, gaps, findings",
          "For the people who own the shop, to be read in a browser and to be printed. One file, which loads nothing.",
          "velshop report --html shop.html",
          readAndRun(readReportArguments, reportShop)},

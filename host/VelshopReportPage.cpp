@@ -1,6 +1,8 @@
 #include "host/VelshopReportPage.h"
 
 #include "host/VelshopCurveSvg.h"
+#include "host/VelshopGapsPage.h"
+#include "host/VelshopGapsSheet.h"
 #include "host/VelshopPage.h"
 #include "host/VelshopShop.h"
 #include "host/VelshopWords.h"
@@ -135,7 +137,7 @@ class ReportPage : private VelshopPage
 {
 public:
     ReportPage(const QString& theShop, const QString& theAccount)
-        : VelshopPage(theShop, QStringLiteral("en"), STR_STYLE)
+        : VelshopPage(theShop, QStringLiteral("en"), STR_STYLE + VelshopGapsMap::style(), VelshopGapsMap::script())
         , myShop(theShop)
         , myConditions(shopConditions())
         , myAudit(QDir(theAccount))
@@ -153,6 +155,8 @@ public:
         writeConditions();
         writeArticles();
         writeFees();
+        section("Gaps");
+        VelshopGapsMap::write(makeGapsSheet(std::nullopt), *this);
         writeFindings();
         return finish();
     }
@@ -161,7 +165,7 @@ private:
     void writeContents()
     {
         start("nav");
-        for (const char* title : {"Conditions", "Articles", "Fees", "Findings"}) {
+        for (const char* title : {"Conditions", "Articles", "Fees", "Gaps", "Findings"}) {
             start("a", {{QStringLiteral("href"), QLatin1Char('#') + idOf(title)}});
             characters(QLatin1String(title));
             end();

@@ -380,6 +380,20 @@ private slots:
             QVERIFY(page.contains(german) == (cell("language") == "de"));
     }
 
+    /// One page holds it all: conditions, ladders with their curves, fees, the map of gaps, what the audit says.
+    void reportAsPage()
+    {
+        const TestAccount folder;
+        const QString file = folder.path("report.html");
+        QCOMPARE(velshop({"report", "--html", file}).exitCode, 0);
+        const QByteArray page = content(file);
+        QVERIFY2(QDomDocument().setContent(page), page);
+        for (const char* text :
+             {"Fotohaus Lindenhof", "Orders start with NET, MAIL", "51 to 100: 9,90 €", "class=\"spark\"",
+              "charged by the products of an order", "class=\"gaps\"", "no paymethod_fee names"})
+            QVERIFY2(page.contains(text), text);
+    }
+
     /// On a disk that is full the former file stays, and nothing half-written. A limit on the size of files stands for
     /// the full disk.
     void fullDisk()
