@@ -1,5 +1,6 @@
 #include "insight/VelAuditShopChecks.h"
 
+#include "frame/VelArithmetic.h"
 #include "insight/VelAuditPhrases.h"
 #include "insight/VelAuditPrices.h"
 #include "insight/VelAuditReport.h"
@@ -148,7 +149,8 @@ private:
     {
         QVector<int> quantities{thePiece.myFrom, thePiece.myTo};
         for (const Band& band : theView.bands())
-            for (const int quantity : {band.value().lowerLimit(), band.value().lowerLimit() - 1})
+            for (const int quantity :
+                 {band.value().lowerLimit(), VelArithmetic::difference(band.value().lowerLimit(), 1)})
                 if (quantity > thePiece.myFrom && quantity < thePiece.myTo)
                     quantities.append(quantity);
         return quantities;
