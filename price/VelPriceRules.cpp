@@ -21,16 +21,10 @@ const Band& noBand()
 
 // ---- what a rule charges
 
+/// One unit for one piece, until the makers below say more.
 Charge once(VelDiscountModel theModel, const Band& theBand)
 {
-    Charge charge{};
-    charge.myBand = &theBand;
-    charge.myModel = theModel;
-    charge.myLevel = theBand.discountLevel();
-    charge.myPieces = 1;
-    charge.myUnits = 1;
-    charge.myItemsPerUnit = 1;
-    return charge;
+    return {&theBand, theModel, theBand.discountLevel()};
 }
 
 Charge eachPiece(VelDiscountModel theModel, const Band& theBand, int theCount)

@@ -4,14 +4,14 @@
 #include "price/VelTarmPriceBand.h"
 
 /// What a rule charges, while nobody has said yet whether it goes to a bill: so many units at the price of a band.
-struct VelTarmPriceCharge
+struct VelTarmPriceCharge // one piece, unless said otherwise
 {
     const VelTarmPriceBand* myBand; ///< never null; without an entry where none applies, and then the price is -1
     VelDiscountModel myModel;       ///< that of the band, and of the rule where no entry applies
     int myLevel;                    ///< that of the band; where nothing can be inherited, -1
-    int myPieces;                   ///< how many sold pieces it stands for
-    int myUnits;                    ///< how many times the price of the band is charged
-    int myItemsPerUnit;             ///< pieces in a unit; above 1 it is a package, -1 one without an upper limit
+    int myPieces = 1;               ///< how many sold pieces it stands for
+    int myUnits = 1;                ///< how many times the price of the band is charged
+    int myItemsPerUnit = 1;         ///< pieces in a unit; above 1 it is a package, -1 one without an upper limit
 };
 
 /// What a model answers for a quantity. A value without a heap: asking costs no allocation.
