@@ -165,9 +165,12 @@ qint64 VelTarmBill::present()
     return myPresent;
 }
 
-void VelTarmBill::addLine(const VelTarmBillLine& theLine)
+VelTarmBillLine& VelTarmBill::addLine(VelProductAbstract* theProduct)
 {
-    myEntries.emplace_back(theLine);
+    myEntries.emplace_back();
+    VelTarmBillLine& line = myEntries.back().newLine();
+    line.myProduct = theProduct;
+    return line;
 }
 
 void VelTarmBill::addOrderPositions(const VelTarmBillPositionList& thePositions)

@@ -179,8 +179,9 @@ public:
 private:
     friend class VelTarmPriceInfo; // which prices into the bill
 
-    /// Appends a line, of which a position is made when one is asked for.
-    void addLine(const VelTarmBillLine& theLine);
+    /// Appends a line of the product, without a price so far, for pricing to fill in; valid until the next is added. A
+    /// position is made of it when one is asked for.
+    VelTarmBillLine& addLine(VelProductAbstract* theProduct);
 
     using Entries = std::vector<VelTarmBillEntry>;
 

@@ -13,11 +13,14 @@ class VelTarmBillPositionAbstract;
 class VelTarmBillEntry
 {
 public:
-    explicit VelTarmBillEntry(const VelTarmBillLine& theLine) : myLine(theLine) {}
+    VelTarmBillEntry() = default;
     explicit VelTarmBillEntry(VelTarmBillPositionAbstract* thePosition) : myPosition(thePosition) {}
 
     /// The same with a position of its own, if there is one.
     VelTarmBillEntry clone() const;
+
+    /// The line while it is written, before anybody asks for the position.
+    VelTarmBillLine& newLine() { return myLine; }
 
     /// What the place says now. Here alone it is decided whether the line or its position answers. Valid until the next
     /// call.

@@ -267,7 +267,7 @@ int VelTarmPriceInfo::priceInTransferModel2(const VelTarmPriceKey& theKey, const
 {
     const int total = VelTransferByProducts(theKey, theStatistic).total();
     if (theBill)
-        theBill->addLine(lineOfTransferModel2(total));
+        writeTransferModel2(total, theBill->addLine(myProduct));
     return total;
 }
 
@@ -283,54 +283,45 @@ int VelTarmPriceInfo::unitTransferPriceInTransferModel2(const VelTarmPriceKey& t
     return VelTransferByProducts(theKey, theStatistic).units();
 }
 
-// ---- what is charged, as lines of a bill
+// ---- what is charged, as lines of a bill, which are written where they stand
 
 /// The clock is read only where there is an old price to show.
-VelTarmBillLine VelTarmPriceInfo::line(const VelTarmPriceCharge& theCharge, VelTarmBill* theBill) const
+void VelTarmPriceInfo::write(const VelTarmPriceCharge& theCharge, VelTarmBill* theBill, VelTarmBillLine& theLine)
 {
     const VelTarmPriceValue& value = theCharge.myBand->value();
     const auto present = [=] { return theBill ? theBill->present() : QDateTime::currentMSecsSinceEpoch(); };
-    VelTarmBillLine line;
-    line.myKind = VelTarmBillLine::PRICED;
-    line.myProduct = myProduct;
-    line.myCountItems = theCharge.myPieces;
-    line.myDiscountModel = theCharge.myModel;
-    line.myDiscountLevel = theCharge.myLevel;
-    line.myUnitPrice = theCharge.myBand->price();
-    line.myUnitCount = theCharge.myUnits;
-    line.myDiscountItemsPerUnit = theCharge.myItemsPerUnit;
-    line.myNonOfferPrice = value.nonOfferPrice() == -1 ? -1 : value.shownNonOfferPrice(present());
-    line.myPrice = VelArithmetic::product(line.myUnitPrice, line.myUnitCount);
-    return line;
+    theLine.myKind = VelTarmBillLine::PRICED;
+    theLine.myCountItems = theCharge.myPieces;
+    theLine.myDiscountModel = theCharge.myModel;
+    theLine.myDiscountLevel = theCharge.myLevel;
+    theLine.myUnitPrice = theCharge.myBand->price();
+    theLine.myUnitCount = theCharge.myUnits;
+    theLine.myDiscountItemsPerUnit = theCharge.myItemsPerUnit;
+    theLine.myNonOfferPrice = value.nonOfferPrice() == -1 ? -1 : value.shownNonOfferPrice(present());
+    theLine.myPrice = VelArithmetic::product(theLine.myUnitPrice, theLine.myUnitCount);
 }
 
 /// The charge that no price entry stands behind.
-VelTarmBillLine VelTarmPriceInfo::lineOfTransferModel2(int theTotal) const
+void VelTarmPriceInfo::writeTransferModel2(int theTotal, VelTarmBillLine& theLine)
 {
-    VelTarmBillLine line;
-    line.myKind = VelTarmBillLine::PRICED;
-    line.myProduct = myProduct;
-    line.myCountItems = 1;
-    line.myDiscountModel = DISCOUNT_MODEL_TRANSFER_2;
-    line.myUnitPrice = theTotal;
-    line.myUnitCount = 1;
-    line.myDiscountItemsPerUnit = 1;
-    line.myNonOfferPrice = -1;
-    line.myPrice = theTotal;
-    return line;
+    theLine.myKind = VelTarmBillLine::PRICED;
+    theLine.myCountItems = 1;
+    theLine.myDiscountModel = DISCOUNT_MODEL_TRANSFER_2;
+    theLine.myUnitPrice = theTotal;
+    theLine.myUnitCount = 1;
+    theLine.myDiscountItemsPerUnit = 1;
+    theLine.myNonOfferPrice = -1;
+    theLine.myPrice = theTotal;
 }
 
 int VelTarmPriceInfo::chargeTo(VelTarmBill* theBill, const VelTarmPriceAnswer& theAnswer) const
 {
     if (!theBill)
         return theAnswer.myPrice;
-    if (!theAnswer.myHasRule) {
-        VelTarmBillLine withoutPrice;
-        withoutPrice.myProduct = myProduct;
-        theBill->addLine(withoutPrice);
-    }
+    if (!theAnswer.myHasRule)
+        theBill->addLine(myProduct);
     for (const VelTarmPriceCharge& charge : theAnswer)
-        theBill->addLine(line(charge, theBill));
+        write(charge, theBill, theBill->addLine(myProduct));
     return theAnswer.myPrice;
 }
 
@@ -338,7 +329,11 @@ int VelTarmPriceInfo::chargeTo(VelTarmBillPositionList* thePositions, const VelT
 {
     if (!thePositions)
         return theAnswer.myPrice;
-    for (const VelTarmPriceCharge& charge : theAnswer)
-        thePositions->append(new VelTarmBillPosition(line(charge, nullptr)));
+    for (const VelTarmPriceCharge& charge : theAnswer) {
+        VelTarmBillLine line;
+        line.myProduct = myProduct;
+        write(charge, nullptr, line);
+        thePositions->append(new VelTarmBillPosition(line));
+    }
     return theAnswer.myPrice;
 }

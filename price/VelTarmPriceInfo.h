@@ -131,8 +131,8 @@ public:
 
 private:
     int inheritedLevel(const VelTarmBill* theBill) const;
-    VelTarmBillLine line(const VelTarmPriceCharge& theCharge, VelTarmBill* theBill) const;
-    VelTarmBillLine lineOfTransferModel2(int theTotal) const;
+    static void write(const VelTarmPriceCharge& theCharge, VelTarmBill* theBill, VelTarmBillLine& theLine);
+    static void writeTransferModel2(int theTotal, VelTarmBillLine& theLine);
     int chargeTo(VelTarmBill* theBill, const VelTarmPriceAnswer& theAnswer) const;
     int chargeTo(VelTarmBillPositionList* thePositions, const VelTarmPriceAnswer& theAnswer) const;
 
