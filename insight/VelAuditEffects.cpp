@@ -8,6 +8,7 @@
 #include "sibling/VelProductType.h"
 #include "sibling/VelXMLParser.h"
 
+using VelAuditPhrases::cents;
 using VelAuditPhrases::line;
 using VelAuditPhrases::orderWay;
 
@@ -119,8 +120,8 @@ public:
             checkEnd(theElement, theValue);
         if (hasOldPrice && theValue.price() >= theValue.nonOfferPrice())
             tell("offer-not-cheaper", theElement, STR_PRICE,
-                 QStringLiteral("the offer costs %1 cents, the old price beside it %2: it isn't cheaper")
-                     .arg(theValue.price())
+                 QStringLiteral("the offer costs %1, the old price beside it %2: it isn't cheaper")
+                     .arg(cents(theValue.price()))
                      .arg(theValue.nonOfferPrice()));
     }
 
@@ -129,9 +130,9 @@ private:
     {
         if (theValue.endOfferDate() <= myPresent)
             tell("offer-over", theElement, STR_END_OFFER_DATE,
-                 QStringLiteral("the offer is over: the old price is no longer shown, and the price stays %1 cents "
+                 QStringLiteral("the offer is over: the old price is no longer shown, and the price stays %1 "
                                 "until it is changed here")
-                     .arg(theValue.price()));
+                     .arg(cents(theValue.price())));
     }
 
     void tell(const char* theRule, const QDomElement& theElement, const QString& theAttribute,

@@ -9,6 +9,7 @@
 
 #include <utility>
 
+using VelAuditPhrases::cents;
 using VelAuditPhrases::line;
 using VelAuditPhrases::orderWay;
 using VelAuditPhrases::pieces;
@@ -38,8 +39,7 @@ bool isWithoutLevelZero(VelDiscountModel theModel)
 QString amount(const VelTarmPriceBand& theBand)
 {
     const int limit = theBand.value().lowerLimit();
-    return theBand.discountModel() == DISCOUNT_MODEL_BILLING_SUM_TRANSFER ? QStringLiteral("%1 cents").arg(limit)
-                                                                          : pieces(limit);
+    return theBand.discountModel() == DISCOUNT_MODEL_BILLING_SUM_TRANSFER ? cents(limit) : pieces(limit);
 }
 
 /// What it comes to, by the kind of entry.
@@ -177,10 +177,10 @@ private:
     {
         if (theLast.discountLevel() > 0 && theLast.value().isPackagePrice())
             tell("package-without-end", theLast, STR_TYPE,
-                 QStringLiteral("no level follows this package, so any number of pieces from %1 on costs %2 cents in "
+                 QStringLiteral("no level follows this package, so any number of pieces from %1 on costs %2 in "
                                 "all; a lower-case letter is the price of each piece")
                      .arg(theLast.value().lowerLimit())
-                     .arg(theLast.price()));
+                     .arg(cents(theLast.price())));
     }
 
     /// A price for each piece that is far dearer than the plain one, or than a piece in a package beside it. A little
@@ -199,11 +199,10 @@ private:
 
     void tellCase(const Band& theBand)
     {
-        tell(
-            "lower-case-package", theBand, STR_TYPE,
-            QStringLiteral("the lower-case letter makes %1 cents the price of each piece, which is dearer than a piece "
-                           "costs elsewhere here; an upper-case one makes it the price of a whole package")
-                .arg(theBand.price()));
+        tell("lower-case-package", theBand, STR_TYPE,
+             QStringLiteral("the lower-case letter makes %1 the price of each piece, which is dearer than a piece "
+                            "costs elsewhere here; an upper-case one makes it the price of a whole package")
+                 .arg(cents(theBand.price())));
     }
 
     static bool isDearerThanPlain(const Band& theBand, const VelTarmPriceView& theView)

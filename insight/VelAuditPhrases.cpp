@@ -34,6 +34,16 @@ QString VelAuditPhrases::pieces(int theCount)
     return theCount == 1 ? QStringLiteral("1 piece") : QStringLiteral("%1 pieces").arg(theCount);
 }
 
+QString VelAuditPhrases::piecesCost(int theCount)
+{
+    return pieces(theCount) + (theCount == 1 ? QStringLiteral(" costs") : QStringLiteral(" cost"));
+}
+
+QString VelAuditPhrases::cents(int theAmount)
+{
+    return theAmount == 1 ? QStringLiteral("1 cent") : QStringLiteral("%1 cents").arg(theAmount);
+}
+
 QString VelAuditPhrases::line(const VelAuditDocument& theDocument, const QDomElement& theElement)
 {
     return QStringLiteral("line %1").arg(theDocument.myContent.place(theElement).myLine);

@@ -19,6 +19,12 @@ QString entry(const VelAuditCatalog::Entry& theEntry);
 /// As "1 piece", "12 pieces".
 QString pieces(int theCount);
 
+/// As "1 piece costs", "12 pieces cost".
+QString piecesCost(int theCount);
+
+/// As "1 cent", "-1 cents", "12 cents".
+QString cents(int theAmount);
+
 /// As "line 12". The same file is meant.
 QString line(const VelAuditDocument& theDocument, const QDomElement& theElement);
 

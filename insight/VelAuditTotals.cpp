@@ -8,9 +8,11 @@
 
 #include <QSet>
 
+using VelAuditPhrases::cents;
 using VelAuditPhrases::line;
 using VelAuditPhrases::orderWay;
 using VelAuditPhrases::pieces;
+using VelAuditPhrases::piecesCost;
 
 namespace {
 
@@ -103,13 +105,13 @@ private:
         if (!deepest)
             return;
         const QString which = deepest->myFrom == deepest->myTo
-                                  ? pieces(deepest->myTo)
-                                  : QStringLiteral("%1 to %2").arg(deepest->myFrom).arg(pieces(deepest->myTo));
+                                  ? piecesCost(deepest->myTo)
+                                  : QStringLiteral("%1 to %2").arg(deepest->myFrom).arg(piecesCost(deepest->myTo));
         tell("total-falls", bandOf(theCurve, theView, deepest->myBetter),
-             QStringLiteral("%1 cost more than %2 (up to %3 cents, by %4)")
+             QStringLiteral("%1 more than %2 (up to %3, by %4)")
                  .arg(which)
                  .arg(deepest->myBetter)
-                 .arg(deepest->mySaves)
+                 .arg(cents(deepest->mySaves))
                  .arg(orderWay(theView.orderSource())));
     }
 
@@ -165,10 +167,9 @@ private:
         if (plain.myPrice < 0 || !itFits || plain.myPrice >= taken)
             return;
         tell("dearer-model-wins", bandOf(theCurve, theView, theQuantity),
-             QStringLiteral("%1 cost %2 cents by this model, which is taken wherever it has a price; the plain price "
-                            "would come to %3 (by %4)")
-                 .arg(pieces(theQuantity))
-                 .arg(taken)
+             QStringLiteral("%1 %2 by this model, which is taken wherever it has a price; the plain price would come "
+                            "to %3 (by %4)")
+                 .arg(piecesCost(theQuantity), cents(taken))
                  .arg(plain.myPrice)
                  .arg(orderWay(theView.orderSource())));
     }
