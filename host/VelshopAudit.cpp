@@ -27,7 +27,7 @@ int exitCodeOf(const VelAudit& theAudit)
     if (!theAudit.isReadable())
         return EXIT_BAD_INPUT;
     const bool isClean = theAudit.count(SEVERITY_ERROR) == 0 && theAudit.count(SEVERITY_WARNING) == 0;
-    return isClean ? EXIT_DONE : EXIT_NO_PRICE;
+    return isClean ? EXIT_DONE : EXIT_FOUND;
 }
 
 void print(const VelAudit& theAudit, const VelshopAuditArguments& theArguments, QTextStream& theOutput)

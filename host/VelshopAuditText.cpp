@@ -118,6 +118,6 @@ QString VelshopAuditText::excerpt(const QString& theLine, int theColumn, int the
     for (int at = 0; at < index; ++at)
         caret += line.at(at) == '\t' ? QLatin1Char('\t') : QLatin1Char(' ');
     caret += QLatin1Char('^');
-    caret += QString(qBound(0, theLength - 1, static_cast<int>(line.size()) - index - 1), QLatin1Char('~'));
+    caret += QString(qMax(0, qMin(theLength, static_cast<int>(line.size()) - index) - 1), QLatin1Char('~'));
     return STR_INDENT + fromCodePoints(line) + QLatin1Char('\n') + STR_INDENT + caret + QLatin1Char('\n');
 }

@@ -51,7 +51,8 @@ QVector<Allowance> allowancesOf(const VelAuditDocument& theDocument, VelAuditRep
 {
     static const QRegularExpression meant(QStringLiteral("^\\s*audit\\s*:"));
     static const QRegularExpression allowance(
-        QStringLiteral("^\\s*audit\\s*:\\s*allow\\s+([^\\s,]+)(?:\\s+because\\s+(\\S[^$]*))?\\s*$"));
+        QStringLiteral("^\\s*audit\\s*:\\s*allow\\s+([^\\s,]+)(?:\\s+because\\s+(\\S.*))?\\s*$"),
+        QRegularExpression::DotMatchesEverythingOption);
     const VelDocumentPositions& positions = theDocument.myContent.positions();
     QVector<Allowance> allowances;
     for (const VelDocumentPositions::Comment& comment : positions.comments()) {
@@ -61,7 +62,7 @@ QVector<Allowance> allowancesOf(const VelAuditDocument& theDocument, VelAuditRep
         const VelDocumentPlace place = positions.text().place(comment.myOffset);
         const QString fault = faultOf(match, comment.myElement);
         if (!fault.isNull())
-            theReport.at(BAD_ALLOWANCE, theDocument, place, static_cast<int>(comment.myText.size()) + 7, fault);
+            theReport.at(BAD_ALLOWANCE, theDocument, place, QStringLiteral("<!--%1-->").arg(comment.myText), fault);
         else
             allowances.append({place, match.captured(1), positions.element(comment.myElement),
                                positions.element(positions.endOfElement(comment.myElement))});
@@ -93,7 +94,7 @@ void takeAllowed(const VelAuditDocument& theDocument, VelAuditReport& theReport,
     for (int index = 0; index < allowances.size(); ++index)
         if (!isUsed.at(index))
             theReport.at(
-                IDLE_ALLOWANCE, theDocument, allowances.at(index).myPlace, 4,
+                IDLE_ALLOWANCE, theDocument, allowances.at(index).myPlace, QStringLiteral("<!--"),
                 QStringLiteral("%1 finds nothing here that this comment could allow").arg(allowances.at(index).myRule));
 }
 

@@ -26,7 +26,7 @@ void checkBytes(const VelAuditDocument& theDocument, VelAuditReport& theReport)
             ++next;
         const int others = next - index - 1;
         const QString rest = others > 0 ? QStringLiteral(", and %1 more in this line").arg(others) : QString();
-        theReport.at(BAD_BYTES, theDocument, places.at(index), 1,
+        theReport.at(BAD_BYTES, theDocument, places.at(index), QString(),
                      QStringLiteral("these bytes are no character of the encoding%1; a replacement character is read")
                          .arg(rest));
         index = next;
@@ -37,7 +37,7 @@ void checkEncoding(const VelAuditDocument& theDocument, VelAuditReport& theRepor
 {
     const VelDocumentText& text = theDocument.myContent.text();
     if (!text.isEncodingKnown())
-        theReport.at(UNKNOWN_ENCODING, theDocument, text.encodingPlace(), static_cast<int>(text.encodingName().size()),
+        theReport.at(UNKNOWN_ENCODING, theDocument, text.encodingPlace(), text.encodingName(),
                      QStringLiteral("there is no encoding %1; UTF-8 is read")
                          .arg(VelAuditWords::withSuggestion(text.encodingName(), encodings())));
 }
@@ -45,7 +45,7 @@ void checkEncoding(const VelAuditDocument& theDocument, VelAuditReport& theRepor
 void checkOddities(const VelAuditDocument& theDocument, VelAuditReport& theReport)
 {
     for (const VelDocumentPositions::Remark& oddity : theDocument.myContent.positions().oddities())
-        theReport.at(NOT_WELL_FORMED, theDocument, oddity.myPlace, 1, oddity.myReason);
+        theReport.at(NOT_WELL_FORMED, theDocument, oddity.myPlace, QString(), oddity.myReason);
 }
 
 } // namespace
@@ -55,7 +55,7 @@ void VelAuditChecks::checkReading(const VelAuditShop& theShop, VelAuditReport& t
     for (const auto& document : theShop.documents()) {
         const VelDocumentPositions::Remark& error = document->myContent.error();
         if (!document->myContent.isReadable())
-            theReport.at(UNREADABLE, *document, error.myPlace, 1, error.myReason);
+            theReport.at(UNREADABLE, *document, error.myPlace, QString(), error.myReason);
         checkBytes(*document, theReport);
         checkEncoding(*document, theReport);
         if (document->myContent.isReadable())

@@ -54,14 +54,15 @@ std::optional<int> articleOf(const VelAuditDocument& theDocument, const QDomElem
 } // namespace
 
 VelAuditFinding& VelAuditReport::at(const char* theRule, const VelAuditDocument& theDocument,
-                                    const VelDocumentPlace& thePlace, int theLength, const QString& theMessage)
+                                    const VelDocumentPlace& thePlace, const QString& theMeant,
+                                    const QString& theMessage)
 {
     const VelAuditRule* rule = VelAuditRules::find(QLatin1String(theRule));
     Q_ASSERT_X(rule, "VelAuditReport", theRule);
     VelAuditFinding finding;
     finding.myFile = theDocument.myFile;
     finding.myPlace = thePlace.isValid() ? thePlace : VelDocumentPlace{1, 1};
-    finding.myLength = lengthInLine(theDocument, finding.myPlace, theLength);
+    finding.myLength = lengthInLine(theDocument, finding.myPlace, lengthOf(theMeant));
     finding.mySeverity = rule ? rule->mySeverity : SEVERITY_WARNING;
     finding.myRule = QLatin1String(theRule);
     finding.myMessage = theMessage;
@@ -73,7 +74,7 @@ VelAuditFinding& VelAuditReport::atElement(const char* theRule, const VelAuditDo
                                            const QDomElement& theElement, const QString& theMessage)
 {
     const VelDocumentPlace place = theDocument.myContent.place(theElement);
-    VelAuditFinding& finding = at(theRule, theDocument, place, lengthOf(theElement.tagName()) + 1, theMessage);
+    VelAuditFinding& finding = at(theRule, theDocument, place, QLatin1Char('<') + theElement.tagName(), theMessage);
     finding.myArticle = articleOf(theDocument, theElement);
     return finding;
 }
@@ -85,8 +86,7 @@ VelAuditFinding& VelAuditReport::atValue(const char* theRule, const VelAuditDocu
     const VelDocumentPlace place = theDocument.myContent.attributeValue(theElement, theAttribute);
     if (!place.isValid())
         return atElement(theRule, theDocument, theElement, theMessage);
-    VelAuditFinding& finding =
-        at(theRule, theDocument, place, lengthOf(theElement.attribute(theAttribute)), theMessage);
+    VelAuditFinding& finding = at(theRule, theDocument, place, theElement.attribute(theAttribute), theMessage);
     finding.myArticle = articleOf(theDocument, theElement);
     return finding;
 }
@@ -98,7 +98,7 @@ VelAuditFinding& VelAuditReport::atName(const char* theRule, const VelAuditDocum
     const VelDocumentPlace place = theDocument.myContent.attributeName(theElement, theAttribute);
     if (!place.isValid())
         return atElement(theRule, theDocument, theElement, theMessage);
-    VelAuditFinding& finding = at(theRule, theDocument, place, lengthOf(theAttribute), theMessage);
+    VelAuditFinding& finding = at(theRule, theDocument, place, theAttribute, theMessage);
     finding.myArticle = articleOf(theDocument, theElement);
     return finding;
 }
@@ -109,7 +109,7 @@ VelAuditFinding& VelAuditReport::atText(const char* theRule, const VelAuditDocum
     const VelDocumentPlace place = theDocument.myContent.elementText(theElement);
     if (!place.isValid())
         return atElement(theRule, theDocument, theElement, theMessage);
-    VelAuditFinding& finding = at(theRule, theDocument, place, lengthOf(theElement.text()), theMessage);
+    VelAuditFinding& finding = at(theRule, theDocument, place, theElement.text(), theMessage);
     finding.myArticle = articleOf(theDocument, theElement);
     return finding;
 }

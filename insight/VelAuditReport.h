@@ -23,9 +23,9 @@ class VELINSIGHT_EXPORT VelAuditReport
 public:
     VelAuditReport() = default;
 
-    /// At a place of its own; the length in code points.
+    /// At a place of its own: under the first line of what is meant there, or under one character for an empty text.
     VelAuditFinding& at(const char* theRule, const VelAuditDocument& theDocument, const VelDocumentPlace& thePlace,
-                        int theLength, const QString& theMessage);
+                        const QString& theMeant, const QString& theMessage);
     /// At an element: under its `<` and tag.
     VelAuditFinding& atElement(const char* theRule, const VelAuditDocument& theDocument, const QDomElement& theElement,
                                const QString& theMessage);

@@ -222,7 +222,7 @@ void VelAuditUnread::text(const QDomElement& theElement)
         return;
     const QString text = firstText(theElement);
     place = behindBlanks(place, text);
-    myReport.at(STRAY_TEXT, myDocument, place, static_cast<int>(text.trimmed().size()),
+    myReport.at(STRAY_TEXT, myDocument, place, text.trimmed(),
                 QStringLiteral("the text %1 isn't read in %2")
                     .arg(VelAuditWords::quoted(text.trimmed()), inBrackets(theElement.tagName())));
 }
