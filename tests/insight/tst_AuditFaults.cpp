@@ -325,7 +325,11 @@ private slots:
         for (const VelAuditFinding& finding : shop.findingsWith(cell("file"), damaged(shop)))
             if (finding.mySeverity != SEVERITY_NOTE)
                 found.append(finding.myRule);
-        QCOMPARE(found.isEmpty() ? QString("-") : found.join(' '), cell("finds"));
+        QString finds = cell("finds");
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0) // which refuses what isn't well-formed
+        finds.replace("not-well-formed", "unreadable");
+#endif
+        QCOMPARE(found.isEmpty() ? QString("-") : found.join(' '), finds);
     }
 
     /// The sample shops have notes at most, and the guide has a row for each rule.

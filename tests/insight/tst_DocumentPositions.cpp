@@ -53,9 +53,12 @@ private slots:
         row("what looks like tags",
             "<!-- <a> --><!DOCTYPE r [<!ATTLIST r b CDATA 'x'>]><r><![CDATA[<b>]]><c a=''/></r>", 1,
             "1:70 1:73 1:76 0:0");
-        row("undeclared entity, control character", "<r b='&nbsp;\x01' a='1'>&x;</r>", 0, "1:1 1:16 1:19 1:22");
+        row("undeclared entity", "<r b='&nbsp;' a='1'>&x;</r>", 0, "1:1 1:15 1:18 1:21");
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // which refuses them
+        row("control character", "<r b='\x01' a='1'/>", 0, "1:1 1:10 1:13 0:0");
         row("twice: the last is read", "<r a='1' b='' a='2'><c a='3' a='4'/></r>", 0, "1:1 1:15 1:18 0:0");
         row("behind what stands twice", "<r b='1' b='2'><c d=''a='4'/></r>", 1, "1:16 1:23 1:26 0:0");
+#endif
     }
 
     void places()
