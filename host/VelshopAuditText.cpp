@@ -2,6 +2,7 @@
 
 #include "insight/VelAudit.h"
 #include "insight/VelAuditRules.h"
+#include "insight/VelPriceWords.h"
 
 #include <QTextStream>
 #include <QVector>
@@ -58,12 +59,6 @@ void print(const VelAudit& theAudit, const VelAuditFinding& theFinding, QTextStr
                   << theFinding.myOtherMessage << '\n';
 }
 
-QString counted(int theCount, const QString& theWord)
-{
-    return QStringLiteral("%1 %2%3").arg(QString::number(theCount), theWord,
-                                         theCount == 1 ? QString() : QStringLiteral("s"));
-}
-
 /// The sentence in lines behind its column.
 QString wrapped(const QString& theSentence, int theIndent)
 {
@@ -105,7 +100,7 @@ QString VelshopAuditText::counts(const VelAudit& theAudit)
     QStringList parts;
     for (const VelAuditSeverity severity : {SEVERITY_ERROR, SEVERITY_WARNING, SEVERITY_NOTE})
         if (const int count = theAudit.count(severity))
-            parts.append(counted(count, VelAuditFinding::nameOf(severity)));
+            parts.append(VelPriceWords::counted(count, VelAuditFinding::nameOf(severity)));
     return parts.isEmpty() ? QStringLiteral("nothing found") : parts.join(QStringLiteral(", "));
 }
 

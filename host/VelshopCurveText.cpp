@@ -48,12 +48,19 @@ void printPieces(const VelshopCurveSheet& theSheet, QTextStream& theOutput)
     table.print(theOutput, QStringLiteral("  "));
 }
 
+/// How many pieces, or the bill sum.
+QString quantity(const VelshopCurveSheet& theSheet, int theAmount)
+{
+    return theSheet.isBySum() ? amountOf(theSheet, theAmount) : VelshopWords::pieces(theAmount);
+}
+
 QString dipText(const VelshopCurveSheet& theSheet, const VelPriceDip& theDip)
 {
-    const QString unit = theSheet.isBySum() ? QString() : QStringLiteral(" pieces");
-    return QStringLiteral("%1%2: %3%2 cost up to %4 less")
-        .arg(runOf(theSheet, theDip.myFrom, theDip.myTo), unit, amountOf(theSheet, theDip.myBetter),
-             VelshopWords::money(theDip.mySaves));
+    const QString last = quantity(theSheet, theDip.myTo);
+    const QString run =
+        theDip.myFrom == theDip.myTo ? last : QStringLiteral("%1 to %2").arg(amountOf(theSheet, theDip.myFrom), last);
+    return QStringLiteral("%1: %2 cost up to %3 less")
+        .arg(run, quantity(theSheet, theDip.myBetter), VelshopWords::money(theDip.mySaves));
 }
 
 /// The totals in columns of as many quantities each; a column stands at the highest of its totals.

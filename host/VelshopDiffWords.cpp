@@ -2,6 +2,7 @@
 
 #include "host/VelshopExplainData.h"
 #include "host/VelshopWords.h"
+#include "insight/VelPriceWords.h"
 
 #include <QDomDocument>
 
@@ -211,7 +212,7 @@ QString VelshopDiffWords::summary(const VelShopDifference& theDifference)
     for (const VelShopCartChange& cart : theDifference.carts())
         carts += cart.isEmpty() ? 0 : 1;
     if (carts > 0)
-        parts.append(count(carts, carts == 1 ? "cart" : "carts"));
+        parts.append(VelPriceWords::counted(carts, QStringLiteral("cart")));
     return parts.isEmpty() ? QStringLiteral("no difference") : parts.join(QStringLiteral(", "));
 }
 

@@ -27,7 +27,7 @@ QString reasonOf(const VelPriceGaps::Cell& theCell)
 {
     if (!theCell.isPriced())
         return VelshopGapsWords::whyUnpriced(theCell.myWhy);
-    return theCell.myUpTo > 0 ? QStringLiteral("no price above %1 pieces").arg(theCell.myUpTo) : QString();
+    return theCell.myUpTo > 0 ? QStringLiteral("no price above ") + VelshopWords::pieces(theCell.myUpTo) : QString();
 }
 
 QJsonObject cellData(const VelProductAbstract& theProduct, const VelPriceGaps::Way& theWay,

@@ -68,7 +68,7 @@ QString lineText(const PricedLine& theLine)
                        .arg(position.unitCount())
                        .arg(VelshopWords::money(position.unitPrice()), VelshopWords::money(position.positionPrice()));
     if (position.isPackage() || position.unitCount() != position.countItems())
-        text += QStringLiteral(" for a package with %1 pieces").arg(position.countItems());
+        text += QStringLiteral(" for a package with ") + VelshopWords::pieces(position.countItems());
     text += QStringLiteral("; model %1, level %2%3")
                 .arg(VelshopWords::discountModel(position.discountModel()))
                 .arg(position.discountLevel())
@@ -153,9 +153,9 @@ QJsonObject toJson(const PricedArticle& theArticle)
 
 QString headText(const Asked& theAsked)
 {
-    return QStringLiteral("%1 %2, %3 pieces by %4")
+    return QStringLiteral("%1 %2, %3 by %4")
         .arg(QString::number(theAsked.myProduct->articleID()), theAsked.myProduct->name(),
-             QString::number(theAsked.myCount), VelshopWords::orderSource(theAsked.mySource));
+             VelshopWords::pieces(theAsked.myCount), VelshopWords::orderSource(theAsked.mySource));
 }
 
 void print(const PricedArticle& theArticle, bool theIsJson, QTextStream& theOutput)

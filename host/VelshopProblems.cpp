@@ -23,9 +23,9 @@ QString nameOf(const Objection& theObjection)
 QString limitText(const Objection& theObjection)
 {
     const QString name = VelTarmShippingGroupManager::instance()->shippingGroupName(theObjection.myGroup);
-    return QStringLiteral("shipping group %1: %2 pieces, but %3 are the most that can be ordered")
+    return QStringLiteral("shipping group %1: %2, but at most %3 can be ordered")
         .arg(QStringLiteral("%1 %2").arg(theObjection.myGroup).arg(name).trimmed(),
-             QString::number(theObjection.myNumber), QString::number(theObjection.myLimit));
+             VelshopWords::pieces(theObjection.myNumber), QString::number(theObjection.myLimit));
 }
 
 QString amountText(const Objection& theObjection)
@@ -47,7 +47,7 @@ QString reason(const Objection& theObjection, const VelTarmOrder& theOrder)
     case Objection::OBJECTION_NO_PRODUCT:
         return QStringLiteral("the cart holds an article that the price list doesn't know");
     case Objection::OBJECTION_COUNT:
-        return QStringLiteral("%1 pieces can't be ordered").arg(theObjection.myNumber);
+        return VelshopWords::pieces(theObjection.myNumber) + QStringLiteral(" can't be ordered");
     case Objection::OBJECTION_DEPRECATED:
         return QStringLiteral("it is no longer in the price list");
     case Objection::OBJECTION_NOT_ORDERABLE:
@@ -55,8 +55,8 @@ QString reason(const Objection& theObjection, const VelTarmOrder& theOrder)
     case Objection::OBJECTION_NO_PRICE:
         return QStringLiteral("no price by ") + source;
     case Objection::OBJECTION_PACKAGE_PIECES:
-        return QStringLiteral("no price by %1, a package would have %2 pieces")
-            .arg(source, QString::number(theObjection.myNumber));
+        return QStringLiteral("no price by %1, a package would have %2")
+            .arg(source, VelshopWords::pieces(theObjection.myNumber));
     case Objection::OBJECTION_NO_EXPRESS:
         return QStringLiteral("it can't be had by %1 as %2").arg(source, VelshopWords::express(theOrder.expressType()));
     case Objection::OBJECTION_LIMIT:

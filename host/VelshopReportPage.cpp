@@ -1,5 +1,6 @@
 #include "host/VelshopReportPage.h"
 
+#include "host/VelshopAuditText.h"
 #include "host/VelshopCurveSvg.h"
 #include "host/VelshopGapsPage.h"
 #include "host/VelshopGapsSheet.h"
@@ -371,10 +372,7 @@ private:
     void writeFindings()
     {
         section("Findings");
-        text("p", QStringLiteral("%1 errors, %2 warnings and %3 notes on the documents.")
-                      .arg(myAudit.count(SEVERITY_ERROR))
-                      .arg(myAudit.count(SEVERITY_WARNING))
-                      .arg(myAudit.count(SEVERITY_NOTE)));
+        text("p", QStringLiteral("On the documents: %1.").arg(VelshopAuditText::counts(myAudit)));
         for (const VelAuditFinding& finding : myAudit.findings())
             writeFinding(finding);
     }

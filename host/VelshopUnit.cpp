@@ -8,6 +8,7 @@
 #include "host/VelshopOptions.h"
 #include "host/VelshopProblems.h"
 #include "host/VelshopWords.h"
+#include "insight/VelPriceWords.h"
 #include "product/VelProductAbstract.h"
 
 #include <QJsonDocument>
@@ -52,9 +53,10 @@ void printJson(const VelProductPriceCalculator& theCalculator, const QList<Part>
 
 void printText(const VelProductPriceCalculator& theCalculator, const QList<Part>& theParts, QTextStream& theOutput)
 {
-    theOutput << QStringLiteral("%1 %2, %3 pages: %4")
+    theOutput << QStringLiteral("%1 %2, %3: %4")
                      .arg(QString::number(theCalculator.articleID()), theCalculator.productName(),
-                          QString::number(theCalculator.countPages()), VelshopWords::money(theCalculator.unitPrice()))
+                          VelPriceWords::counted(theCalculator.countPages(), QStringLiteral("page")),
+                          VelshopWords::money(theCalculator.unitPrice()))
               << '\n';
     for (const Part& part : theParts)
         if (part.myCount > 0)

@@ -157,6 +157,11 @@ void VelshopWords::insertBand(QJsonObject& theJson, const VelDiscountLimit& theL
         theJson.insert(QStringLiteral("to"), theLimit.upperLimit());
 }
 
+QString VelshopWords::pieces(qint64 theCount)
+{
+    return VelPriceWords::counted(theCount, QStringLiteral("piece"));
+}
+
 QString VelshopWords::limit(int theNumber)
 {
     return theNumber == -1 ? QStringLiteral("-") : QString::number(theNumber);

@@ -50,6 +50,9 @@ QString band(const VelDiscountLimit& theLimit);
 /// The same as data: "from", and "to" where the band ends.
 void insertBand(QJsonObject& theJson, const VelDiscountLimit& theLimit);
 
+/// As "1 piece", "12 pieces".
+QString pieces(qint64 theCount);
+
 /// A number of which -1 means that there is none.
 QString limit(int theNumber);
 

@@ -1,5 +1,6 @@
 #include "insight/VelAuditPhrases.h"
 
+#include "insight/VelPriceWords.h"
 #include "insight/VelVocabularies.h"
 
 namespace {
@@ -31,7 +32,7 @@ QString VelAuditPhrases::entry(const VelAuditCatalog::Entry& theEntry)
 
 QString VelAuditPhrases::pieces(int theCount)
 {
-    return theCount == 1 ? QStringLiteral("1 piece") : QStringLiteral("%1 pieces").arg(theCount);
+    return VelPriceWords::counted(theCount, QStringLiteral("piece"));
 }
 
 QString VelAuditPhrases::piecesCost(int theCount)
@@ -41,7 +42,7 @@ QString VelAuditPhrases::piecesCost(int theCount)
 
 QString VelAuditPhrases::cents(int theAmount)
 {
-    return theAmount == 1 ? QStringLiteral("1 cent") : QStringLiteral("%1 cents").arg(theAmount);
+    return VelPriceWords::counted(theAmount, QStringLiteral("cent"));
 }
 
 QString VelAuditPhrases::line(const VelAuditDocument& theDocument, const QDomElement& theElement)

@@ -49,6 +49,12 @@ QString VelPriceWords::orderSource(const VelOrderSource& theSource)
            wordOf(DELIVERY_TYPES, theSource.deliveryType());
 }
 
+QString VelPriceWords::counted(qint64 theCount, const QString& theWord)
+{
+    const QString text = QStringLiteral("%1 %2").arg(QString::number(theCount), theWord);
+    return theCount == 1 ? text : text + QLatin1Char('s');
+}
+
 QString VelPriceWords::product(const VelProductAbstract& theProduct)
 {
     return QStringLiteral("%1 %2").arg(theProduct.articleID()).arg(theProduct.name());

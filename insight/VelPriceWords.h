@@ -21,6 +21,9 @@ VELINSIGHT_EXPORT QString model(VelDiscountModel theModel);
 /// As "NET, MAIL".
 VELINSIGHT_EXPORT QString orderSource(const VelOrderSource& theSource);
 
+/// As "1 piece", "0 pieces", "12 pieces"; the word is the one for a single thing.
+VELINSIGHT_EXPORT QString counted(qint64 theCount, const QString& theWord);
+
 /// As "131 Roll bundle M".
 QString product(const VelProductAbstract& theProduct);
 

@@ -260,7 +260,7 @@ private slots:
             coupon beyond an int | 2 | amount of shipping group 1       | {"coupon":"dear.xml","couponId":"A","items":[{"article":103,"count":1}]}
             coupon not XML       | 2 | FOLDER/cart.json, line 1, column 1:     | {"coupon":"cart.json","couponId":"A","items":[{"article":103,"count":1}]}
             unknown template     | 2 | templates.ZZ: the price list has no | {"items":[{"article":9171,"count":1,"templates":{"ZZ":1}}]}
-            beyond the limit     | 1 | 7 Wandbilder und Geschenke: 31 pieces, but 30 | {"items":[{"article":7001,"count":31}]}
+            beyond the limit     | 1 | 7 Wandbilder und Geschenke: 31 pieces, but at most 30 | {"items":[{"article":7001,"count":31}]}
             express without      | 1 | 9171 Fotobuch Classic A4: it can't be had by NET, POS as express 1 | {"source":"NET","delivery":"POS","express":"1","items":[{"article":9171,"count":1}]}
             group not sold       | 1 | 3101 13x18 Klassenfoto: the shop | {"items":[{"article":3101,"count":1}]}
             express not offered  | 1 | 13042 Blitz Bücher: no price by NET, POS | {"source":"NET","delivery":"POS","express":"2","items":[{"article":9171,"count":1}]}
