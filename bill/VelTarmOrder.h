@@ -13,6 +13,8 @@
 #include <QList>
 #include <QPair>
 
+#include <utility>
+
 /**
  * A whole order: a cart of any shipping groups, order source, payment, express and coupons in; the bill of each group,
  * the amounts of all together, and everything that stands against placing the order out.
@@ -21,6 +23,7 @@
  * article with the price -1, more pieces than the group's limit, express where there is none, and a product that the
  * shop doesn't sell. All is reckoned on construction; a price list that is read later doesn't change an order that was
  * made, but the fees of its bills answer anew, so make a new order then. A value, of one thread like the registry.
+ * The lists of one that nobody keeps come by value, so that a loop may run over them.
  */
 class VELTARM_EXPORT VelTarmOrder
 {
@@ -53,12 +56,14 @@ public:
     bool hasExpress() const;
 
     /// The coupons in the order in which they count, each with what was taken of it and what is left.
-    const QList<VelTarmOrderCoupon>& coupons() const { return myCoupons; }
+    const QList<VelTarmOrderCoupon>& coupons() const& { return myCoupons; }
+    QList<VelTarmOrderCoupon> coupons() && { return std::move(myCoupons); }
 
     // ---- what it comes to
 
     /// A bill for each shipping group of which the cart holds anything, in the order of the group ids.
-    const QList<VelTarmOrderBill>& bills() const { return myBills; }
+    const QList<VelTarmOrderBill>& bills() const& { return myBills; }
+    QList<VelTarmOrderBill> bills() && { return std::move(myBills); }
 
     /// The sums of all bills. Each shipping group travels in a parcel of its own and is charged on its own, so every
     /// bill that comes to anything pays shipping, payment and express.
@@ -66,7 +71,8 @@ public:
 
     /// What stands against the order: first what concerns the order as a whole, then that of each bill in the order of
     /// the bills. See VelTarmOrderObjection for what is told.
-    const QList<VelTarmOrderObjection>& objections() const { return myObjections; }
+    const QList<VelTarmOrderObjection>& objections() const& { return myObjections; }
+    QList<VelTarmOrderObjection> objections() && { return std::move(myObjections); }
 
     /// Whether nothing stands against it. An empty cart has no objection: whether it is worth sending the host decides.
     bool canBePlaced() const { return myObjections.isEmpty(); }

@@ -9,7 +9,10 @@
 #include <QList>
 #include <QSharedPointer>
 
+#include <utility>
+
 /// The part of an order that one shipping group makes up. A value; copies share the bill, which nobody changes.
+/// The lists of one that nobody keeps come by value, so that a loop may run over them.
 class VelTarmOrderBill
 {
 public:
@@ -24,7 +27,8 @@ public:
 
     /// What each coupon of the order adds to the bill, in the order of VelTarmOrder::coupons(); 0 for one that doesn't
     /// count here. A bill that something stands against is given no coupon.
-    const QList<int>& couponShares() const { return myCouponShares; }
+    const QList<int>& couponShares() const& { return myCouponShares; }
+    QList<int> couponShares() && { return std::move(myCouponShares); }
 
     /// All shares together: what VelTarmBill::totalFinalCost() and priceOfPaymentAgio() are asked with.
     int couponAmount() const { return myCouponAmount; }
@@ -33,7 +37,8 @@ public:
     const VelTarmOrderAmounts& amounts() const { return myAmounts; }
 
     /// What stands against this bill.
-    const QList<VelTarmOrderObjection>& objections() const { return myObjections; }
+    const QList<VelTarmOrderObjection>& objections() const& { return myObjections; }
+    QList<VelTarmOrderObjection> objections() && { return std::move(myObjections); }
 
 private:
     friend class VelTarmOrder;

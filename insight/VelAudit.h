@@ -8,12 +8,16 @@
 #include <QDir>
 #include <QVector>
 
+#include <utility>
+
 /**
  * What can be said against the documents of an account before a customer sees it. The library goes on answering as it
  * does; nothing is mended here.
  *
  * A comment `<!-- audit: allow RULE because ... -->` in front of an element takes that rule's findings away for the
  * element and what it holds.
+ *
+ * The findings of an audit that nobody keeps come by value, so that a loop may run over them.
  */
 class VELINSIGHT_EXPORT VelAudit
 {
@@ -24,7 +28,8 @@ public:
     explicit VelAudit(const QDir& theFolder);
 
     /// Without those that are allowed, sorted by file, line and column.
-    const QVector<VelAuditFinding>& findings() const { return myFindings; }
+    const QVector<VelAuditFinding>& findings() const& { return myFindings; }
+    QVector<VelAuditFinding> findings() && { return std::move(myFindings); }
     /// How many findings have the severity.
     int count(VelAuditSeverity theSeverity) const;
     /// Whether all documents can be read. What can't is a finding, and the others are audited all the same.

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QVector>
 
+#include <utility>
+
 /**
  * Where each element, attribute name, attribute value and text of a document stands. Elements go by their number: the
  * root is 0, and the others follow in the order of their start tags. A value, implicitly shared; 16 bytes for an
@@ -14,6 +16,8 @@
  *
  * What the reader takes although it isn't well-formed (an attribute that stands twice, attributes without a blank
  * between them) is indexed as well and named in oddities().
+ *
+ * The lists of one that nobody keeps come by value, so that a loop may run over them.
  */
 class VELINSIGHT_EXPORT VelDocumentPositions
 {
@@ -59,9 +63,11 @@ public:
     QString tag(int theNumber) const;
 
     /// All comments, in document order.
-    const QVector<Comment>& comments() const { return myComments; }
+    const QVector<Comment>& comments() const& { return myComments; }
+    QVector<Comment> comments() && { return std::move(myComments); }
     /// What isn't well-formed and is read all the same, in document order. It ends after 32.
-    const QVector<Remark>& oddities() const { return myOddities; }
+    const QVector<Remark>& oddities() const& { return myOddities; }
+    QVector<Remark> oddities() && { return std::move(myOddities); }
     /// Why the text is no XML, and where. No place for one that is.
     const Remark& error() const { return myError; }
 

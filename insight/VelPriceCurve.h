@@ -9,6 +9,8 @@
 #include <QList>
 #include <QVector>
 
+#include <utility>
+
 class VelProductAbstract;
 class VelTarmPriceView;
 
@@ -21,7 +23,8 @@ class VelTarmPriceView;
  *     for (const VelPriceCurvePiece& piece : curve.pieces())
  *         qDebug() << piece.myFrom << piece.myTo << piece.myFirst << piece.myPerPiece;
  *
- * A value: it stays as it is when the price list is read again.
+ * A value: it stays as it is when the price list is read again. The pieces of one that nobody keeps come by value, so
+ * that a loop may run over them.
  */
 class VELINSIGHT_EXPORT VelPriceCurve
 {
@@ -66,7 +69,8 @@ public:
                                             const QList<VelOrderSource>& theSources, const Range& theRange);
 
     /// By rising quantity; neighbours can't be merged. Quantities without a price stand in none.
-    const QVector<VelPriceCurvePiece>& pieces() const { return myPieces; }
+    const QVector<VelPriceCurvePiece>& pieces() const& { return myPieces; }
+    QVector<VelPriceCurvePiece> pieces() && { return std::move(myPieces); }
 
     /// The quantities beyond which a larger one of the curve is cheaper, by rising quantity.
     QVector<VelPriceDip> dips() const;

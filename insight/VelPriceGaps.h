@@ -7,6 +7,8 @@
 
 #include <QVector>
 
+#include <utility>
+
 /**
  * What the shop sells by which order source, and what it doesn't: every article, add-on and fee by every order source
  * that the ordering details list, and by every other valid one under which an article of the shop has a price.
@@ -18,6 +20,7 @@
  *                 qDebug() << row.myProduct->name() << gaps.ways().at(way).mySource;
  *
  * A value, but for the products, which stay the registry's. It shows the price list that was loaded when it was made.
+ * The lists of one that nobody keeps come by value, so that a loop may run over them.
  */
 class VELINSIGHT_EXPORT VelPriceGaps
 {
@@ -86,14 +89,17 @@ public:
     explicit VelPriceGaps(VelPriceCurve::Reading theReading = VelPriceCurve::AS_PRICED);
 
     /// The columns: those that are listed by VelOrderSource::operator<, then the others.
-    const QVector<Way>& ways() const { return myWays; }
+    const QVector<Way>& ways() const& { return myWays; }
+    QVector<Way> ways() && { return std::move(myWays); }
 
     /// In the order of the price list.
-    const QVector<Row>& articles() const { return myArticles; }
+    const QVector<Row>& articles() const& { return myArticles; }
+    QVector<Row> articles() && { return std::move(myArticles); }
 
     /// Transfers by group, payments by number, then express fees by group and type. A transfer counts as priced where
     /// some count at a bill sum of 1 cent is, or some sum at a count of 1; a payment where one is at a sum of 1 cent.
-    const QVector<FeeRow>& fees() const { return myFees; }
+    const QVector<FeeRow>& fees() const& { return myFees; }
+    QVector<FeeRow> fees() && { return std::move(myFees); }
 
 private:
     QVector<Way> myWays;

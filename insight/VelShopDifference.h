@@ -4,6 +4,8 @@
 #include "insight/VelInsightExport.h"
 #include "insight/VelShopSnapshot.h"
 
+#include <utility>
+
 /// An article, an add-on or a fee of both shops that isn't the same any more.
 struct VelShopEntryChange
 {
@@ -40,6 +42,8 @@ struct VELINSIGHT_EXPORT VelShopCartChange
  *     const VelShopDifference difference(before, VelShopSnapshot::taken());
  *     for (const VelShopEntryChange& change : difference.changed())
  *         qDebug() << change.myNew.myArticle << change.myFields.size() << change.myTotals.size();
+ *
+ * The lists of one that nobody keeps come by value, so that a loop may run over them.
  */
 class VELINSIGHT_EXPORT VelShopDifference
 {
@@ -51,14 +55,19 @@ public:
     bool isEmpty() const;
 
     /// Only in the new shop, by id; fees are those that are charged for something that had none.
-    const QVector<VelShopEntry>& added() const { return myAdded; }
+    const QVector<VelShopEntry>& added() const& { return myAdded; }
+    QVector<VelShopEntry> added() && { return std::move(myAdded); }
     /// Only in the old shop.
-    const QVector<VelShopEntry>& removed() const { return myRemoved; }
-    const QVector<VelShopEntryChange>& changed() const { return myChanged; }
+    const QVector<VelShopEntry>& removed() const& { return myRemoved; }
+    QVector<VelShopEntry> removed() && { return std::move(myRemoved); }
+    const QVector<VelShopEntryChange>& changed() const& { return myChanged; }
+    QVector<VelShopEntryChange> changed() && { return std::move(myChanged); }
     /// Of the shop as a whole.
-    const QVector<VelShopFieldChange>& conditions() const { return myConditions; }
+    const QVector<VelShopFieldChange>& conditions() const& { return myConditions; }
+    QVector<VelShopFieldChange> conditions() && { return std::move(myConditions); }
     /// Every cart that both snapshots hold, in their order, the same ones too.
-    const QVector<VelShopCartChange>& carts() const { return myCarts; }
+    const QVector<VelShopCartChange>& carts() const& { return myCarts; }
+    QVector<VelShopCartChange> carts() && { return std::move(myCarts); }
 
 private:
     void compareEntries(const QVector<VelShopEntry>& theOld, const QVector<VelShopEntry>& theNew);

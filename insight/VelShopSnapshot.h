@@ -9,6 +9,8 @@
 #include <QDataStream>
 #include <QVector>
 
+#include <utility>
+
 /// An article, an add-on or a fee of a shop.
 struct VELINSIGHT_EXPORT VelShopEntry
 {
@@ -63,6 +65,8 @@ struct VelShopCart
  * registry that reads a second price list keeps names and sizes of the first which that one doesn't mention.
  *
  *     QDataStream(&file) << VelShopSnapshot::taken();
+ *
+ * The lists of one that nobody keeps come by value, so that a loop may run over them.
  */
 class VELINSIGHT_EXPORT VelShopSnapshot
 {
@@ -79,10 +83,13 @@ public:
     void addRefusedCart(const QString& theName, const QString& theReason);
 
     /// Sorted by VelShopEntry::isBefore.
-    const QVector<VelShopEntry>& entries() const { return myEntries; }
+    const QVector<VelShopEntry>& entries() const& { return myEntries; }
+    QVector<VelShopEntry> entries() && { return std::move(myEntries); }
     /// Order ways, payments, groups, currencies and the like.
-    const QVector<VelShopField>& conditions() const { return myConditions; }
-    const QVector<VelShopCart>& carts() const { return myCarts; }
+    const QVector<VelShopField>& conditions() const& { return myConditions; }
+    QVector<VelShopField> conditions() && { return std::move(myConditions); }
+    const QVector<VelShopCart>& carts() const& { return myCarts; }
+    QVector<VelShopCart> carts() && { return std::move(myCarts); }
 
 private:
     friend VELINSIGHT_EXPORT QDataStream& operator<<(QDataStream& theStream, const VelShopSnapshot& theSnapshot);
