@@ -76,7 +76,10 @@ struct ShopArticle
         children += "<base_prices>";
         for (const Attributes& price : prices)
             children += "<e" + written(price) + "/>";
-        return QString("<%1%2>%3</base_prices></%1>\n").arg(tag, written(attributes), children);
+        children += "</base_prices><shipping_times>"
+                    "<shipping_time days='3' delivery_type='0' express='1'/>"
+                    "<shipping_time days='3' delivery_type='1' express='1'/></shipping_times>";
+        return QString("<%1%2>%3</%1>\n").arg(tag, written(attributes), children);
     }
 };
 
