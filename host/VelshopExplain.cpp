@@ -1,6 +1,5 @@
 #include "host/VelshopExplain.h"
 
-#include "frame/VelTarmStatus.h"
 #include "host/VelshopAccount.h"
 #include "host/VelshopArticle.h"
 #include "host/VelshopCart.h"
@@ -27,6 +26,9 @@
 
 namespace {
 
+/// In cents: shipping by bill sum costs nothing for 0, and no article asks for a sum.
+const int SUM_OF_FEE = 1;
+
 /// What is printed, and to what it is compared.
 struct Answer
 {
@@ -38,31 +40,43 @@ struct Answer
 };
 
 /// The library's amounts wrap around; at a desk an amount that no int can hold is not to be believed.
-bool isTooLarge(const VelProductAbstract& theProduct, const VelOrderSource& theSource, int theCount, int theLevel)
+bool isTooLarge(const VelProductAbstract& theProduct, const VelTarmPriceKey& theKey, int theCount, int theLevel)
 {
-    const VelTarmPriceView view(theProduct, theSource);
+    const VelTarmPriceView view(theProduct, theKey.orderSource());
     qint64 sum = 0;
-    for (const VelTarmPriceCharge& charge : view.best(theCount, 0, theLevel))
+    for (const VelTarmPriceCharge& charge : theKey.discountModel() == DISCOUNT_MODEL_EXPRESS_FEE
+                                                ? view.inModel(theKey.discountModel(), theCount, 0, 0)
+                                                : view.best(theCount, SUM_OF_FEE, theLevel))
         sum += static_cast<qint64>(charge.myUnits) * charge.myBand->price();
     return !VelTarmOrderAmounts::fits(sum);
 }
 
+/// The library answers 0 for what only the products of an order say.
+VelPriceExplanation withoutPrice(VelExplainedTerm theTerm)
+{
+    theTerm.myAmount = -1;
+    theTerm.myHasPrice = false;
+    return {{theTerm}, -1};
+}
+
 bool explainArticle(const VelshopExplainArguments& theArguments, Answer& theAnswer, VelshopError& theError)
 {
-    const VelProductAbstract* product = findArticle(theArguments.myArticle, theError);
+    VelDiscountModel keyModel = DISCOUNT_MODEL_UNDEFINED;
+    const VelProductAbstract* product = findArticleOrFee(theArguments.myArticle, keyModel, theError);
     VelOrderSource source = VelOrderSource::onlineMailOrder();
     if (!product || !theArguments.myWhatIf.source().complete(source, theError))
         return false;
     theAnswer.myHead = QStringLiteral("By ") + VelshopWords::orderSource(source);
-    if (isTooLarge(*product, source, theArguments.myCount, theArguments.myLevel)) {
+    const VelTarmPriceKey key(source, -1, keyModel);
+    if (isTooLarge(*product, key, theArguments.myCount, theArguments.myLevel)) {
         theError = QStringLiteral("%1, %2 pieces: the amount is beyond what 32 bits of cents can hold")
                        .arg(product->name(), QString::number(theArguments.myCount));
         return false;
     }
-    VelTarmStatus status;
-    status.setOrderSource(source);
-    theAnswer.myExplanation = VelPriceExplainer().price(*product, status.priceKey(), theArguments.myCount, nullptr,
-                                                        nullptr, 0, theArguments.myLevel);
+    theAnswer.myExplanation = VelPriceExplainer().price(*product, key, theArguments.myCount, nullptr, nullptr,
+                                                        SUM_OF_FEE, theArguments.myLevel);
+    if (product->transferModel() == TRANSFER_MODEL_2)
+        theAnswer.myExplanation = withoutPrice(theAnswer.myExplanation.terms().first());
     return true;
 }
 

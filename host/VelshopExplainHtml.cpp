@@ -35,7 +35,7 @@ public:
             text("p", note, QStringLiteral("alarm"));
         const VelExplainedTerm* former = nullptr;
         for (const VelExplainedTerm& term : theExplanation.terms()) {
-            if (!former || former->myGroup != term.myGroup)
+            if (beginsGroup(former, term))
                 text("h2", groupText(term.myGroup));
             writeTerm(term);
             former = &term;

@@ -98,6 +98,11 @@ QString groupText(int theGroup)
         .trimmed();
 }
 
+bool beginsGroup(const VelExplainedTerm* theFormer, const VelExplainedTerm& theTerm)
+{
+    return theTerm.myGroup != -1 && (!theFormer || theFormer->myGroup != theTerm.myGroup);
+}
+
 QString amountText(bool theHasPrice, qint64 theAmount)
 {
     return theHasPrice ? VelshopWords::money(static_cast<int>(theAmount)) : QStringLiteral("no price");
@@ -145,7 +150,7 @@ void printExplanation(const VelPriceExplanation& theExplanation, const QString& 
     theOutput << theHead << '\n';
     const VelExplainedTerm* former = nullptr;
     for (const VelExplainedTerm& term : theExplanation.terms()) {
-        if (!former || former->myGroup != term.myGroup)
+        if (beginsGroup(former, term))
             theOutput << groupText(term.myGroup) << '\n';
         printTerm(term, theIsAll, theOutput);
         former = &term;

@@ -19,6 +19,10 @@ QString termText(const VelExplainedTerm& theTerm);
 /// As "Shipping group 1 Prints".
 QString groupText(int theGroup);
 
+/// Whether the term is the first one of its shipping group, behind the former one, which may be null. What is of no
+/// group, as the fee of a payment, stands below no head.
+bool beginsGroup(const VelExplainedTerm* theFormer, const VelExplainedTerm& theTerm);
+
 /// As "4.62 €", "no price" where there is none.
 QString amountText(bool theHasPrice, qint64 theAmount);
 

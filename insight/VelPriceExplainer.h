@@ -42,7 +42,7 @@ public:
 
     /// What VelProductAbstract::priceFor answers, as one term. The bill, which may be null, stands for the main
     /// products of an add-on, unless a level is given for them, and the statistic for what a shipping by products
-    /// ships.
+    /// ships; without one it comes to 0.
     VelPriceExplanation price(const VelProductAbstract& theProduct, const VelTarmPriceKey& theKey, int theCount,
                               const VelTarmBill* theBill = nullptr, const VelOrderStatistic* theStatistic = nullptr,
                               int theBillingSum = 0, int theInheritedLevel = LEVEL_OF_BILL) const;

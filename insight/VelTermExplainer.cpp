@@ -18,12 +18,16 @@ namespace {
 const QString STR_TRANSFER_BASE_PRICE = QStringLiteral("transfer_base_price");
 const QString STR_TRANSFER_UNIT_PRICE = QStringLiteral("transfer_unit_price");
 const QString STR_MODEL = QStringLiteral("model");
+const QString STR_TRANSFER = QStringLiteral("transfer");
+const QString STR_PAYMETHOD_FEE = QStringLiteral("paymethod_fee");
 
-VelExplainedTerm::Kind kindOf(const VelTarmPriceView& theView, const VelPriceQuestion& theQuestion)
+VelExplainedTerm::Kind kindOf(const QString& theTag, const VelPriceQuestion& theQuestion)
 {
     if (theQuestion.myIsExpress)
         return VelExplainedTerm::EXPRESS;
-    return theView.transferModel() == TRANSFER_MODEL_UNDEFINED ? VelExplainedTerm::ITEM : VelExplainedTerm::TRANSFER;
+    if (theTag == STR_TRANSFER)
+        return VelExplainedTerm::TRANSFER;
+    return theTag == STR_PAYMETHOD_FEE ? VelExplainedTerm::PAYMENT : VelExplainedTerm::ITEM;
 }
 
 /// The entry of the plain price, null for none.
@@ -68,7 +72,7 @@ VelExplainedTerm VelTermExplainer::term(const VelProductAbstract& theProduct, co
 {
     const VelTarmPriceView view(theProduct, theQuestion.mySource);
     VelExplainedTerm term;
-    term.myKind = kindOf(view, theQuestion);
+    term.myKind = kindOf(mySources.element(theProduct).tagName(), theQuestion);
     term.myGroup = theProduct.shippingGroupId();
     term.myArticle = theProduct.articleID();
     term.myName = theProduct.name();
@@ -114,7 +118,8 @@ void VelTermExplainer::explainByProducts(VelExplainedTerm& theTerm, const VelPro
     for (const QDomElement& entry : VelExplanationSources::entries(element))
         mySources.cite(theTerm.myPlaces.myCompared, entry, {QStringLiteral("type")});
     theTerm.myAmount = transfer.total();
-    theTerm.myReason = QStringLiteral("shipping by products: nothing is shipped");
+    theTerm.myReason = theStatistic ? QStringLiteral("shipping by products: nothing is shipped")
+                                    : QStringLiteral("shipping by products: only the products of an order say it");
     if (!transfer.leader())
         return;
     const int free = transfer.leader()->unitTransferPrice(key);

@@ -52,6 +52,8 @@ private slots:
             list of another source  | list --source CD                 | BY CD, MAIL; 1,99 €    yes        yes
             why a package           | explain 131 80                   | 1 x 990; package: it wins at once; 21 more reach; pricelist.xml:340:56: price="990"
             why an inherited price  | explain 5002 6 --level 1 --all   | inherited discount, level 1, 3 to 9: 13,74 €; type="I"; compared:
+            why a fee costs that    | explain 13041 5                  | express 13041; 7,90 €; level 1, from 5; price="790"
+            why a payment           | explain 12008 1                  | payment 12008; 5,90 €; price="590"
             another way to order    | explain shop/carts/showcase.json --delivery POS --compare | payment 8 can't be chosen by NET, POS; payment 0 is taken; Versand Fotobücher (group 4); -5,95 €; not orderable
             a bill of another way   | bill shop/carts/showcase.json --source CD --payment 3 --express 0 --no-coupon | Order by CD, MAIL; payment 3 (Rechnung); Standard
         )");
@@ -81,6 +83,9 @@ private slots:
         const QJsonObject explanation = QJsonDocument::fromJson(unpriced.output).object();
         QVERIFY(explanation["total"].isNull());
         QCOMPARE(explanation["terms"].toArray()[1].toObject()["needs"].toArray().size(), 2);
+        const VelshopAnswer fee = velshop({"explain", "11007", "1"}); // by the products of an order
+        QCOMPARE(fee.exitCode, 1);
+        QVERIFY2(fee.output.contains("no price"), fee.output);
     }
 
     void refusals_data()
