@@ -18,11 +18,6 @@ const QString STR_NO_DISCOUNT = QStringLiteral("-");
 
 using Piece = VelTarmDiscountInformation;
 
-bool isPackageModel(VelDiscountModel theModel)
-{
-    return theModel == DISCOUNT_MODEL_LEVEL_PACKAGE || theModel == DISCOUNT_MODEL_PACKAGE;
-}
-
 /// Fees carry no transfer prices of their own.
 bool isFeeModel(VelDiscountModel theModel)
 {

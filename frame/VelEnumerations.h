@@ -21,6 +21,12 @@ enum VelDiscountModel : int {
     DISCOUNT_MODEL_UNDEFINED = 10          ///< no model applies; to a copying constructor: the model stays
 };
 
+/// Whether entries of the model may be the sum for a package: by the case of their letter, see VelDiscountLimit.
+constexpr bool isPackageModel(VelDiscountModel theModel)
+{
+    return theModel == DISCOUNT_MODEL_LEVEL_PACKAGE || theModel == DISCOUNT_MODEL_PACKAGE;
+}
+
 /// How a shipping-cost product computes. The numbers occur in documents.
 enum VelTransferModel : int { TRANSFER_MODEL_UNDEFINED = -1, TRANSFER_MODEL_1 = 1, TRANSFER_MODEL_2 = 2 };
 

@@ -24,11 +24,6 @@ const QString STR_PRICE = QStringLiteral("price");
 /// So much dearer than the plain price, or than a piece in the package beside it, is no price for a piece.
 const int SURELY_DEARER = 3;
 
-bool isPackageModel(VelDiscountModel theModel)
-{
-    return theModel == DISCOUNT_MODEL_LEVEL_PACKAGE || theModel == DISCOUNT_MODEL_PACKAGE;
-}
-
 /// Models whose level 0 is never asked for.
 bool isWithoutLevelZero(VelDiscountModel theModel)
 {

@@ -84,11 +84,7 @@ VelAuditFinding& VelAuditReport::atValue(const char* theRule, const VelAuditDocu
                                          const QString& theMessage)
 {
     const VelDocumentPlace place = theDocument.myContent.attributeValue(theElement, theAttribute);
-    if (!place.isValid())
-        return atElement(theRule, theDocument, theElement, theMessage);
-    VelAuditFinding& finding = at(theRule, theDocument, place, theElement.attribute(theAttribute), theMessage);
-    finding.myArticle = articleOf(theDocument, theElement);
-    return finding;
+    return within(theElement, theRule, theDocument, place, theElement.attribute(theAttribute), theMessage);
 }
 
 VelAuditFinding& VelAuditReport::atName(const char* theRule, const VelAuditDocument& theDocument,
@@ -96,20 +92,23 @@ VelAuditFinding& VelAuditReport::atName(const char* theRule, const VelAuditDocum
                                         const QString& theMessage)
 {
     const VelDocumentPlace place = theDocument.myContent.attributeName(theElement, theAttribute);
-    if (!place.isValid())
-        return atElement(theRule, theDocument, theElement, theMessage);
-    VelAuditFinding& finding = at(theRule, theDocument, place, theAttribute, theMessage);
-    finding.myArticle = articleOf(theDocument, theElement);
-    return finding;
+    return within(theElement, theRule, theDocument, place, theAttribute, theMessage);
 }
 
 VelAuditFinding& VelAuditReport::atText(const char* theRule, const VelAuditDocument& theDocument,
                                         const QDomElement& theElement, const QString& theMessage)
 {
     const VelDocumentPlace place = theDocument.myContent.elementText(theElement);
-    if (!place.isValid())
+    return within(theElement, theRule, theDocument, place, theElement.text(), theMessage);
+}
+
+VelAuditFinding& VelAuditReport::within(const QDomElement& theElement, const char* theRule,
+                                        const VelAuditDocument& theDocument, const VelDocumentPlace& thePlace,
+                                        const QString& theMeant, const QString& theMessage)
+{
+    if (!thePlace.isValid())
         return atElement(theRule, theDocument, theElement, theMessage);
-    VelAuditFinding& finding = at(theRule, theDocument, place, theElement.text(), theMessage);
+    VelAuditFinding& finding = at(theRule, theDocument, thePlace, theMeant, theMessage);
     finding.myArticle = articleOf(theDocument, theElement);
     return finding;
 }

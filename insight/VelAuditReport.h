@@ -43,6 +43,9 @@ public:
     QVector<VelAuditFinding> findings() const;
 
 private:
+    VelAuditFinding& within(const QDomElement& theElement, const char* theRule, const VelAuditDocument& theDocument,
+                            const VelDocumentPlace& thePlace, const QString& theMeant, const QString& theMessage);
+
     std::deque<VelAuditFinding> myFindings; ///< which stay where they are while others come
 };
 

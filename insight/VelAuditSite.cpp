@@ -1,5 +1,6 @@
 #include "insight/VelAuditSite.h"
 
+#include "insight/VelAuditWords.h"
 #include "sibling/VelXMLParser.h"
 
 namespace {
@@ -56,6 +57,11 @@ VelAuditSite::VelAuditSite(const VelAuditDocument& theDocument, const QDomElemen
 QString VelAuditSite::name() const
 {
     return isAttribute() ? myDescription.myName : myElement.tagName();
+}
+
+QString VelAuditSite::quoted() const
+{
+    return name() + QLatin1Char(' ') + VelAuditWords::quoted(myText);
 }
 
 /// A text that is taken gives the same number whatever the default.

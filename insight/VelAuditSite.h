@@ -20,6 +20,8 @@ public:
     const QString& text() const { return myText; }
     /// The attribute's name, of a text the element's tag.
     QString name() const;
+    /// Both, the value in quotes: `price "1,49"`.
+    QString quoted() const;
 
     /// What the library's own conversions make of it: whether they take it, and as what.
     bool isWholeNumber(int& theNumber) const;

@@ -30,11 +30,6 @@ const QString STR_NAME = QStringLiteral("name");
 
 using Value = VelValueDescription;
 
-QString quoted(const VelAuditSite& theSite)
-{
-    return theSite.name() + QLatin1Char(' ') + VelAuditWords::quoted(theSite.text());
-}
-
 // ---- texts of which some are known
 
 /// The words that a text of this place may be, those that the library knows.
@@ -70,12 +65,12 @@ void checkKnown(const VelAuditSite& theSite)
             const bool isBlank = word == text;
             theSite.report(isBlank ? BLANKS : WRONG_CASE,
                            QStringLiteral("%1 is compared letter by letter, and \"%2\" is what is known")
-                               .arg(quoted(theSite), word));
+                               .arg(theSite.quoted(), word));
             return;
         }
     if (theSite.text() != text && (isCompared(theSite) || isNameOfPayment(theSite)))
         theSite.report(
-            BLANKS, QStringLiteral("the blanks of %1 count, so it isn't found by \"%2\"").arg(quoted(theSite), text));
+            BLANKS, QStringLiteral("the blanks of %1 count, so it isn't found by \"%2\"").arg(theSite.quoted(), text));
 }
 
 // ---- lines of the order text
@@ -138,7 +133,7 @@ void checkListedId(const VelAuditSite& theSite)
         theSite.report(INEXACT_ID,
                        QStringLiteral("%1 is compared as a text with the books and calendars that are known, "
                                       "and isn't \"%2\"; the article is refused")
-                           .arg(quoted(theSite))
+                           .arg(theSite.quoted())
                            .arg(number),
                        true);
 }
@@ -168,7 +163,7 @@ void checkPriceOfPieces(const VelAuditSite& theSite)
             LOWER_CASE_PACKAGE,
             QStringLiteral(
                 "%1 in lower case makes each piece cost %2, and one piece by itself costs %3; did you mean \"%4\"?")
-                .arg(quoted(theSite))
+                .arg(theSite.quoted())
                 .arg(price)
                 .arg(plain)
                 .arg(theSite.text().trimmed().toUpper()),
@@ -179,15 +174,13 @@ void checkPriceOfPieces(const VelAuditSite& theSite)
 void checkPackageLetter(const VelAuditSite& theSite)
 {
     const VelDiscountLimit limit(theSite.element());
-    const bool isPackageModel =
-        limit.discountModel() == DISCOUNT_MODEL_PACKAGE || limit.discountModel() == DISCOUNT_MODEL_LEVEL_PACKAGE;
-    if (!isPackageModel || limit.isPackage())
+    if (!isPackageModel(limit.discountModel()) || limit.isPackage())
         return;
     if (theSite.text().trimmed().at(0).isUpper())
         theSite.report(
             BLANKS,
             QStringLiteral("%1 begins with a blank, so the price is that of each piece and not of the package")
-                .arg(quoted(theSite)),
+                .arg(theSite.quoted()),
             true);
     else
         checkPriceOfPieces(theSite);

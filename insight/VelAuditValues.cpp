@@ -21,11 +21,6 @@ const char* const COMBINED_WORDS = "combined-words";
 
 using Value = VelValueDescription;
 
-QString quoted(const VelAuditSite& theSite)
-{
-    return theSite.name() + QLatin1Char(' ') + VelAuditWords::quoted(theSite.text());
-}
-
 // ---- numbers
 
 bool isTooLong(const QString& theText)
@@ -38,10 +33,10 @@ void reportRefusedNumber(const VelAuditSite& theSite)
 {
     if (isTooLong(theSite.text()))
         theSite.report(OUT_OF_RANGE,
-                       QStringLiteral("%1 doesn't fit into 32 bits; %2").arg(quoted(theSite), theSite.consequence()));
+                       QStringLiteral("%1 doesn't fit into 32 bits; %2").arg(theSite.quoted(), theSite.consequence()));
     else
         theSite.report(NOT_A_NUMBER,
-                       QStringLiteral("%1 isn't a whole number; %2").arg(quoted(theSite), theSite.consequence()));
+                       QStringLiteral("%1 isn't a whole number; %2").arg(theSite.quoted(), theSite.consequence()));
 }
 
 /// The numbers of words: "0 (net), 1 (CD) or 4 (kiosk)".
@@ -69,14 +64,14 @@ void checkRange(const VelAuditSite& theSite, int theNumber)
     const Value& value = theSite.description();
     const bool isGrave = theSite.isOfPrice() && value.myType == Value::TYPE_CENTS;
     if (theNumber < value.myLowest)
-        theSite.report(OUT_OF_RANGE, QStringLiteral("%1 is below %2").arg(quoted(theSite)).arg(value.myLowest),
+        theSite.report(OUT_OF_RANGE, QStringLiteral("%1 is below %2").arg(theSite.quoted()).arg(value.myLowest),
                        isGrave);
     else if (theNumber > value.myHighest && !isTakenOff(value)) // a coupon that adds is told by what it does to bills
-        theSite.report(OUT_OF_RANGE, QStringLiteral("%1 is above %2").arg(quoted(theSite)).arg(value.myHighest),
+        theSite.report(OUT_OF_RANGE, QStringLiteral("%1 is above %2").arg(theSite.quoted()).arg(value.myHighest),
                        isGrave);
     else if (!value.myVocabulary.myWords.isEmpty() && !isOfWord(value.myVocabulary, theNumber))
         theSite.report(UNKNOWN_WORD, QStringLiteral("%1 is none of the numbers known here: %2")
-                                         .arg(quoted(theSite), numbersOf(value.myVocabulary)));
+                                         .arg(theSite.quoted(), numbersOf(value.myVocabulary)));
 }
 
 void checkWholeNumber(const VelAuditSite& theSite)
@@ -95,7 +90,7 @@ void checkFactor(const VelAuditSite& theSite)
     const double factor = theSite.text().toDouble(&isNumber);
     if (!isNumber || !std::isfinite(factor))
         theSite.report(NOT_A_NUMBER,
-                       QStringLiteral("%1 isn't a number; amounts in this currency are wrong").arg(quoted(theSite)),
+                       QStringLiteral("%1 isn't a number; amounts in this currency are wrong").arg(theSite.quoted()),
                        true);
 }
 
@@ -126,7 +121,7 @@ void reportUnknownWord(const VelAuditSite& theSite, const QString& theWord)
                                              : QStringLiteral("known are ") + VelAuditWords::choice(vocabulary.texts());
     const QString reason =
         vocabulary.isInTable(theWord) ? QStringLiteral("has no meaning here") : QStringLiteral("isn't a known word");
-    theSite.report(UNKNOWN_WORD, QStringLiteral("%1 %2; %3").arg(quoted(theSite), reason, known));
+    theSite.report(UNKNOWN_WORD, QStringLiteral("%1 %2; %3").arg(theSite.quoted(), reason, known));
 }
 
 /// Words that are all the same combine into themselves.
@@ -139,7 +134,7 @@ void checkCombined(const VelAuditSite& theSite, const QStringList& theParts)
         return;
     theSite.report(
         COMBINED_WORDS,
-        QStringLiteral("%1 is no list: its words combine into %2").arg(quoted(theSite), wordOf(vocabulary, combined)));
+        QStringLiteral("%1 is no list: its words combine into %2").arg(theSite.quoted(), wordOf(vocabulary, combined)));
 }
 
 /// Nothing written is nothing meant, where that is allowed.
@@ -177,7 +172,7 @@ void checkBool(const VelAuditSite& theSite)
 {
     if (!theSite.isBool())
         theSite.report(NOT_A_BOOL,
-                       QStringLiteral("%1 is neither true nor false; %2").arg(quoted(theSite), theSite.consequence()));
+                       QStringLiteral("%1 is neither true nor false; %2").arg(theSite.quoted(), theSite.consequence()));
 }
 
 void checkDateTime(const VelAuditSite& theSite)
@@ -185,7 +180,7 @@ void checkDateTime(const VelAuditSite& theSite)
     if (!theSite.isDateTime())
         theSite.report(
             NOT_A_DATE,
-            QStringLiteral("%1 is no date and time such as 2099-12-31T23:59:59, so it is none").arg(quoted(theSite)));
+            QStringLiteral("%1 is no date and time such as 2099-12-31T23:59:59, so it is none").arg(theSite.quoted()));
 }
 
 /// What stands beside the numbers is passed over by the reader, and of three numbers the middle one.
@@ -194,7 +189,7 @@ void checkDays(const VelAuditSite& theSite)
     static const QRegularExpression days(QStringLiteral("^\\s*\\d{1,9}(-\\d{1,9})?\\s*$"));
     if (!days.match(theSite.text()).hasMatch())
         theSite.report(GARBLED_DAYS, QStringLiteral("%1 is neither a number of days nor two with a hyphen between; %2")
-                                         .arg(quoted(theSite), VelAuditTexts::daysRead(theSite)));
+                                         .arg(theSite.quoted(), VelAuditTexts::daysRead(theSite)));
 }
 
 } // namespace

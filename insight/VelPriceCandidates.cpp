@@ -30,11 +30,6 @@ const QStringList& attributesBesidePrice()
     return names;
 }
 
-bool isPackageModel(VelDiscountModel theModel)
-{
-    return theModel == DISCOUNT_MODEL_LEVEL_PACKAGE || theModel == DISCOUNT_MODEL_PACKAGE;
-}
-
 /// The band that was found: of a package with a rest that of the rest, null where there is none.
 const VelTarmPriceBand* bandOf(const VelTarmPriceAnswer& theAnswer)
 {

@@ -45,11 +45,6 @@ bool isFee(VelDiscountModel theModel)
            theModel == DISCOUNT_MODEL_EXPRESS_FEE;
 }
 
-bool isPackageModel(VelDiscountModel theModel)
-{
-    return theModel == DISCOUNT_MODEL_LEVEL_PACKAGE || theModel == DISCOUNT_MODEL_PACKAGE;
-}
-
 qint64 floorOf(qint64 theNumerator, qint64 theDenominator)
 {
     const qint64 quotient = theNumerator / theDenominator;

@@ -111,8 +111,8 @@ const Band* highestReached(const VelTarmPriceBands& theLevels, int theCount, Vel
 
 bool VelPriceRules::winsAtOnce(VelDiscountModel theModel)
 {
-    return theModel == DISCOUNT_MODEL_LEVEL_PACKAGE || theModel == DISCOUNT_MODEL_PACKAGE ||
-           theModel == DISCOUNT_MODEL_BILLING_SUM_TRANSFER || theModel == DISCOUNT_MODEL_INHERITED_DISCOUNT;
+    return isPackageModel(theModel) || theModel == DISCOUNT_MODEL_BILLING_SUM_TRANSFER ||
+           theModel == DISCOUNT_MODEL_INHERITED_DISCOUNT;
 }
 
 /// Models are tried in rising order of their numbers. What the best one answers is kept: its rule runs only once.
