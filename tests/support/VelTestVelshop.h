@@ -1,6 +1,8 @@
 #ifndef VELTESTVELSHOP_H
 #define VELTESTVELSHOP_H
 
+#include <QFile>
+#include <QJsonDocument>
 #include <QMap>
 #include <QProcess>
 
@@ -25,6 +27,18 @@ inline VelshopAnswer velshop(const QStringList& theArguments, const QMap<QString
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
         return {-1, QByteArray(), "velshop did not end by itself"};
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+/// What velshop answers in JSON; the arguments stand between blanks.
+inline QJsonDocument velshopJson(const QString& theArguments)
+{
+    return QJsonDocument::fromJson(velshop((theArguments + QStringLiteral(" --json")).split(QLatin1Char(' '))).output);
+}
+
+inline QByteArray fileContent(const QString& theFile)
+{
+    QFile file(theFile);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file " + theFile.toUtf8();
 }
 
 #endif
