@@ -134,6 +134,7 @@ bool VelTarmOrder::useCoupons(VelTarmOrderBill& theBill, bool theIsPlaceable)
         fit = fit && (!theIsPlaceable || coupon.fitsOn(*theBill.myBill));
         const int share = theIsPlaceable && fit ? coupon.spendOn(*theBill.myBill, theBill.myCouponAmount) : 0;
         theBill.myCouponShares.append(share);
+        theBill.myCouponRests.append(coupon.left());
         theBill.myCouponAmount = VelArithmetic::sum(theBill.myCouponAmount, share);
     }
     return fit;

@@ -30,6 +30,10 @@ public:
     const QList<int>& couponShares() const& { return myCouponShares; }
     QList<int> couponShares() && { return std::move(myCouponShares); }
 
+    /// Cents, 0 or more, that each coupon can still take off behind this bill, in the same order: what
+    /// VelTarmOrderCoupon::left() says there.
+    const QList<int>& couponRests() const { return myCouponRests; }
+
     /// All shares together: what VelTarmBill::totalFinalCost() and priceOfPaymentAgio() are asked with.
     int couponAmount() const { return myCouponAmount; }
 
@@ -51,6 +55,7 @@ private:
     QSharedPointer<const VelTarmBill> myBill;
     VelOrderStatistic myCart;
     QList<int> myCouponShares;
+    QList<int> myCouponRests;
     int myCouponAmount = 0;
     VelTarmOrderAmounts myAmounts;
     QList<VelTarmOrderObjection> myObjections;

@@ -55,12 +55,20 @@ QString VelCouponExplainer::reason(const VelCoupon& theCoupon, const VelCouponUs
         return QStringLiteral("not valid: it has no known type");
     if (!theCoupon.isValid())
         return QStringLiteral("not valid: it has no campaign_no");
+    const QString left = theCoupon.type() == COUPON_TYPE_VALUE
+                             ? QStringLiteral("; %1 of it is left after this bill").arg(theUse.myLeft)
+                             : QString();
+    return use(theCoupon, theUse) + left;
+}
+
+QString VelCouponExplainer::use(const VelCoupon& theCoupon, const VelCouponUse& theUse) const
+{
     if (!theUse.myIsPlaceable)
         return QStringLiteral("not used: this bill can't be placed");
     if (theCoupon.type() != COUPON_TYPE_VALUE && theUse.myTaken != 0)
         return QStringLiteral("not used: it has counted on another bill");
     const int discount = theCoupon.discountForOrder(myBill, theUse.myTaken);
-    QString reason = grant(theCoupon, theUse.myTaken);
+    QString reason = isOfMoney(theCoupon) ? percentOrValue(theCoupon, theUse) : freePieces(theCoupon);
     if (discount == -theCoupon.totalValueOfOrder(myBill) && discount != 0)
         reason += QStringLiteral("; no more than its articles come to, %1").arg(-static_cast<qint64>(discount));
     if (discount != theUse.myShare)
@@ -68,12 +76,7 @@ QString VelCouponExplainer::reason(const VelCoupon& theCoupon, const VelCouponUs
     return reason;
 }
 
-QString VelCouponExplainer::grant(const VelCoupon& theCoupon, int theTaken) const
-{
-    return isOfMoney(theCoupon) ? percentOrValue(theCoupon, theTaken) : freePieces(theCoupon);
-}
-
-QString VelCouponExplainer::percentOrValue(const VelCoupon& theCoupon, int theTaken) const
+QString VelCouponExplainer::percentOrValue(const VelCoupon& theCoupon, const VelCouponUse& theUse) const
 {
     const int value = theCoupon.totalValueOfOrder(myBill);
     const qint64 beyond = static_cast<qint64>(value) - theCoupon.minimumSpentValue();
@@ -88,11 +91,10 @@ QString VelCouponExplainer::percentOrValue(const VelCoupon& theCoupon, int theTa
             .arg(theCoupon.discountPercentage())
             .arg(minimum)
             .arg(theCoupon.percentDiscount(myBill));
-    const qint64 left = static_cast<qint64>(theCoupon.maximumDiscountValue()) - theTaken;
     return QStringLiteral("value %1: %2; %3 of it was left")
         .arg(theCoupon.maximumDiscountValue())
         .arg(minimum)
-        .arg(left);
+        .arg(theUse.myLeftBefore);
 }
 
 QString VelCouponExplainer::freePieces(const VelCoupon& theCoupon) const

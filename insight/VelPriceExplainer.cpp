@@ -1,7 +1,6 @@
 #include "insight/VelPriceExplainer.h"
 
 #include "bill/VelTarmOrder.h"
-#include "frame/VelArithmetic.h"
 #include "insight/VelBillExplainer.h"
 #include "insight/VelCouponExplainer.h"
 #include "insight/VelExplanationSources.h"
@@ -35,23 +34,29 @@ VelPriceExplanation VelPriceExplainer::bill(const VelTarmBill& theBill, const Ve
 {
     QVector<VelExplainedTerm> coupons;
     const int share = theCoupon && theCoupon->isValid() ? theCoupon->discountForOrder(theBill, 0) : 0;
-    if (theCoupon)
-        coupons.append(VelCouponExplainer(theBill, *mySources).term(*theCoupon, {0, share, 0, true}));
+    if (theCoupon) {
+        VelTarmOrderCoupon used(*theCoupon);
+        VelCouponUse use{0, share, 0, used.left(), 0, true};
+        used.spendOn(theBill, 0);
+        use.myLeft = used.left();
+        coupons.append(VelCouponExplainer(theBill, *mySources).term(*theCoupon, use));
+    }
     return {VelBillExplainer(theBill, *mySources).terms(coupons, share), theBill.totalFinalCost(share)};
 }
 
 VelPriceExplanation VelPriceExplainer::order(const VelTarmOrder& theOrder) const
 {
     QVector<VelExplainedTerm> terms;
-    QVector<int> taken(theOrder.coupons().size(), 0);
+    QVector<VelCouponUse> uses;
+    for (const VelTarmOrderCoupon& coupon : theOrder.coupons())
+        uses.append({static_cast<int>(uses.size()), 0, 0, 0, VelTarmOrderCoupon(coupon.coupon()).left(), true});
     for (const VelTarmOrderBill& bill : theOrder.bills()) {
         QVector<VelExplainedTerm> coupons;
-        for (int number = 0; number < taken.size(); ++number) {
-            const int share = bill.couponShares().at(number);
-            coupons.append(VelCouponExplainer(bill.bill(), *mySources)
-                               .term(theOrder.coupons().at(number).coupon(),
-                                     {number, share, taken.at(number), bill.objections().isEmpty()}));
-            taken[number] = VelArithmetic::sum(taken.at(number), share);
+        for (VelCouponUse& use : uses) {
+            use.goOn(bill.couponShares().at(use.myNumber), bill.couponRests().at(use.myNumber));
+            use.myIsPlaceable = bill.objections().isEmpty();
+            coupons.append(
+                VelCouponExplainer(bill.bill(), *mySources).term(theOrder.coupons().at(use.myNumber).coupon(), use));
         }
         terms += VelBillExplainer(bill.bill(), *mySources).terms(coupons, bill.couponAmount());
     }

@@ -180,6 +180,7 @@ private slots:
     {
         const VelTarmOrder made = order("2x1 21x1", {coupon("percent", -50), coupon("value", -1000)});
         QCOMPARE(made.bills().at(0).couponShares(), (QList<int>{-650, -650}));
+        QCOMPARE(made.bills().at(0).couponRests(), (QList<int>{0, 350}));
         QCOMPARE(made.bills().at(1).couponShares(), (QList<int>{0, -350}));
         QCOMPARE(made.bills().at(0).amounts().myTotal, qint64(0));
         const VelTarmOrder refused = order("3x2 21x1", {coupon("value", -1000)});

@@ -32,6 +32,7 @@ private slots:
             why an inherited price  | explain 5002 6 --level 1 --all   | inherited discount, level 1, 3 to 9: 13,74 €; type="I"; compared:
             why a fee costs that    | explain 13041 5                  | express 13041; 7,90 €; level 1, from 5; price="790"
             why a payment           | explain 12008 1                  | payment 12008; 5,90 €; price="590"
+            what a voucher leaves   | explain tests/host/bills/voucher.json | 4055 of it is left; 4055 of it was left; 0 of it is left after this bill
             another way to order    | explain shop/carts/showcase.json --delivery POS --compare | payment 8 can't be chosen by NET, POS; payment 0 is taken; Versand Fotobücher (group 4); -5,95 €; not orderable
             a bill of another way   | bill shop/carts/showcase.json --source CD --payment 3 --express 0 --no-coupon | Order by CD, MAIL; payment 3 (Rechnung); Standard
         )");
