@@ -10,7 +10,7 @@ using Row = VelshopDiffWords::Row;
 const QString STR_STYLE = QStringLiteral(R"(
 :root { --gone: #a3131d; --came: #14632f; }
 @media (prefers-color-scheme: dark) { :root { --gone: #ff9a9a; --came: #8fdca8; } }
-@media print { :root { --gone: #000000; --came: #000000; } body { font-size: 11px; } }
+@media print { :root { --gone: #000000; --came: #000000; } :root, body { font-size: 11px; } }
 body { max-width: 62rem; }
 h3 { margin: 1.4rem 0 0.3rem; font-size: 1rem; break-after: avoid; }
 h4 { margin: 0.7rem 0 0.2rem; font-size: 0.875rem; font-weight: 400; color: var(--faint); break-after: avoid; }

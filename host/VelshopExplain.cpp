@@ -69,8 +69,8 @@ bool explainArticle(const VelshopExplainArguments& theArguments, Answer& theAnsw
     theAnswer.myHead = QStringLiteral("By ") + VelshopWords::orderSource(source);
     const VelTarmPriceKey key(source, -1, keyModel);
     if (isTooLarge(*product, key, theArguments.myCount, theArguments.myLevel)) {
-        theError = QStringLiteral("%1, %2 pieces: the amount is beyond what 32 bits of cents can hold")
-                       .arg(product->name(), QString::number(theArguments.myCount));
+        theError = QStringLiteral("%1, %2: the amount is beyond what 32 bits of cents can hold")
+                       .arg(product->name(), VelshopWords::pieces(theArguments.myCount));
         return false;
     }
     theAnswer.myExplanation = VelPriceExplainer().price(*product, key, theArguments.myCount, nullptr, nullptr,

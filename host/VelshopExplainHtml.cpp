@@ -3,6 +3,7 @@
 #include "host/VelshopExplainText.h"
 #include "host/VelshopPage.h"
 #include "host/VelshopWords.h"
+#include "insight/VelPriceWords.h"
 
 namespace {
 
@@ -17,13 +18,32 @@ details p, summary .note { margin: 0.35rem 0 0.35rem 1.1rem; }
 summary .note { margin-top: 0; }
 ul { margin: 0.35rem 0; padding-left: 2rem; }
 code { font-size: 0.8125rem; }
+summary { break-inside: avoid; break-after: avoid; }
+@media print {
+  :root, body { font-size: 12px; max-width: none; }
+  summary { list-style: none; } summary::-webkit-details-marker { display: none; } }
 )");
+
+/// On paper nothing unfolds: each term is opened, and what decides it. The places of the candidates, which repeat them,
+/// and those that were only compared are printed where the reader has opened them.
+const QString STR_SCRIPT = QStringLiteral(R"(
+var unfolded = [];
+addEventListener('beforeprint', function () {
+  unfolded = Array.from(document.querySelectorAll('details.printed:not([open])'));
+  unfolded.forEach(function (part) { part.open = true; });
+});
+addEventListener('afterprint', function () {
+  unfolded.forEach(function (part) { part.open = false; });
+});
+)");
+
+const QString STR_PRINTED = QStringLiteral("printed");
 
 class ExplanationPage : private VelshopPage
 {
 public:
     explicit ExplanationPage(const QString& theHead)
-        : VelshopPage(QStringLiteral("Why this price"), QStringLiteral("en"), STR_STYLE)
+        : VelshopPage(QStringLiteral("Why this price"), QStringLiteral("en"), STR_STYLE, STR_SCRIPT)
     {
         text("h1", QStringLiteral("Why this price"));
         text("p", theHead);
@@ -50,7 +70,7 @@ public:
 private:
     void writeTerm(const VelExplainedTerm& theTerm)
     {
-        start("details");
+        startWithClass("details", STR_PRINTED);
         start("summary");
         startWithClass("span", QStringLiteral("row"));
         text("span", termText(theTerm));
@@ -65,8 +85,7 @@ private:
             text("p", QStringLiteral("Has a price by ") + needText(need));
         for (const VelExplainedCandidate& candidate : theTerm.myCandidates)
             writeCandidate(candidate);
-        writePlaces(QStringLiteral("Decides"), theTerm.myPlaces.myDecides);
-        writePlaces(QStringLiteral("Compared"), theTerm.myPlaces.myCompared);
+        writePlaces(theTerm.myPlaces);
         end();
     }
 
@@ -74,17 +93,23 @@ private:
     {
         start("details");
         text("summary", candidateText(theCandidate));
-        writePlaces(QStringLiteral("Decides"), theCandidate.myPlaces.myDecides);
-        writePlaces(QStringLiteral("Compared"), theCandidate.myPlaces.myCompared);
+        writePlaces(theCandidate.myPlaces);
         end();
     }
 
-    void writePlaces(const QString& theHead, const QVector<VelExplainedPlace>& thePlaces)
+    void writePlaces(const VelExplainedPlaces& thePlaces)
+    {
+        writePlaces(QStringLiteral("Decides"), thePlaces.myDecides, STR_PRINTED);
+        writePlaces(QStringLiteral("Compared"), thePlaces.myCompared, QString());
+    }
+
+    void writePlaces(const QString& theHead, const QVector<VelExplainedPlace>& thePlaces, const QString& theClass)
     {
         if (thePlaces.isEmpty())
             return;
-        start("details");
-        text("summary", QStringLiteral("%1: %2 places").arg(theHead).arg(thePlaces.size()));
+        startWithClass("details", theClass);
+        text("summary",
+             QStringLiteral("%1: %2").arg(theHead, VelPriceWords::counted(thePlaces.size(), QStringLiteral("place"))));
         start("ul");
         for (const VelExplainedPlace& place : thePlaces) {
             start("li");

@@ -7,8 +7,8 @@
 #include <QString>
 #include <QStringList>
 
-/// An explanation as a page: a line for each term, which unfolds into its candidates and places. Printed, what is
-/// folded stays so. The notes stand below the head.
+/// An explanation as a page: a line for each term, which unfolds into its candidates and places. Printed, it
+/// shows what was reckoned, the candidates, and the places that decide. The notes stand below the head.
 QByteArray explanationPage(const VelPriceExplanation& theExplanation, const QString& theHead,
                            const QStringList& theNotes);
 

@@ -15,11 +15,6 @@ QString spaces(int theCount)
     return QString(theCount, QLatin1Char(' '));
 }
 
-QString pieces(int theCount)
-{
-    return QString::number(theCount) + (theCount == 1 ? QStringLiteral(" piece") : QStringLiteral(" pieces"));
-}
-
 /// In lines of the terminal's width, the following ones two further in.
 void printWrapped(const QString& theText, int theIndent, QTextStream& theOutput)
 {
@@ -86,7 +81,7 @@ QString termText(const VelExplainedTerm& theTerm)
         text += QStringLiteral("%1 ").arg(theTerm.myArticle);
     text += theTerm.myName;
     if (theTerm.myKind == VelExplainedTerm::ITEM)
-        text += QStringLiteral(", ") + pieces(theTerm.myCount);
+        text += QStringLiteral(", ") + VelshopWords::pieces(theTerm.myCount);
     return text.trimmed();
 }
 
@@ -125,8 +120,8 @@ QString candidateText(const VelExplainedCandidate& theCandidate)
 
 QString needText(const VelExplainedNeed& theNeed)
 {
-    QString text =
-        QStringLiteral("%1 from %2 on").arg(VelshopWords::orderSource(theNeed.myOrderSource), pieces(theNeed.myFrom));
+    QString text = QStringLiteral("%1 from %2 on")
+                       .arg(VelshopWords::orderSource(theNeed.myOrderSource), VelshopWords::pieces(theNeed.myFrom));
     if (theNeed.myLevel != 0)
         text += QStringLiteral(" with a main product of level %1").arg(theNeed.myLevel);
     return text;

@@ -4,6 +4,7 @@
 #include "bill/VelTarmBill.h"
 #include "frame/VelChildElements.h"
 #include "insight/VelPriceCandidates.h"
+#include "insight/VelPriceWords.h"
 #include "product/VelProductAbstract.h"
 
 namespace {
@@ -103,13 +104,12 @@ QString VelCouponExplainer::freePieces(const VelCoupon& theCoupon) const
     part.filterArticles(theCoupon.validArticles());
     part.filterOutPackages();
     const int count = part.totalItemCount(VelProductGroup(PRODUCT_GROUP_ALL));
+    const QString piece = QStringLiteral("piece");
     QString text =
-        QStringLiteral("%1 free pieces from %2 pieces on: %3 pieces of %4 without packages, the cheapest at %5")
-            .arg(theCoupon.freeQuantity())
-            .arg(theCoupon.minimumQuantity())
-            .arg(count)
-            .arg(articles(theCoupon))
-            .arg(part.unitPriceOfCheapestArticle());
+        QStringLiteral("%1 from %2 on: %3 of %4 without packages, the cheapest at %5")
+            .arg(VelPriceWords::counted(theCoupon.freeQuantity(), QStringLiteral("free piece")),
+                 VelPriceWords::counted(theCoupon.minimumQuantity(), piece), VelPriceWords::counted(count, piece),
+                 articles(theCoupon), QString::number(part.unitPriceOfCheapestArticle()));
     if (theCoupon.validArticles().contains(myBill.idOfTransferProduct()))
         text += QStringLiteral("; it pays the shipping of %1").arg(myBill.transferFee());
     return text + QStringLiteral("; that is %1").arg(theCoupon.quantityDiscount(myBill));
