@@ -3,11 +3,12 @@
 #include "product/VelProductAddOn.h"
 
 #include <limits>
+#include <optional>
 #include <set>
 
 namespace {
 
-const int NO_QUANTITY = std::numeric_limits<int>::max();
+const int HIGHEST = std::numeric_limits<int>::max();
 
 /// Where the first quantity with a price can be. Between two thresholds every model is a line, and a line that is -1 at
 /// its begin and behind it is -1 all along.
@@ -16,20 +17,20 @@ std::set<int> possibleQuantities(const VelTarmPriceView& theView)
     std::set<int> quantities{1, 2};
     for (const VelTarmPriceBand& band : theView.bands()) {
         const int limit = band.value().lowerLimit();
-        if (limit > 0 && limit < NO_QUANTITY - 1)
-            quantities.insert({limit, limit + 1});
+        if (limit > 0)
+            quantities.insert({limit, limit == HIGHEST ? limit : limit + 1});
     }
     return quantities;
 }
 
-int smallestQuantity(const VelTarmPriceView& theView, VelPriceQuestion theQuestion)
+std::optional<int> smallestQuantity(const VelTarmPriceView& theView, VelPriceQuestion theQuestion)
 {
     for (const int quantity : possibleQuantities(theView)) {
         theQuestion.myCount = quantity;
         if (theQuestion.answer(theView).myPrice != -1)
             return quantity;
     }
-    return NO_QUANTITY;
+    return std::nullopt;
 }
 
 /// Those of which an add-on may inherit another price; all others inherit none.
@@ -52,13 +53,14 @@ QVector<VelExplainedNeed> needsOf(const VelProductAbstract& theProduct, const Ve
         if (!source.isValid()) // such as a kiosk that sends by mail: entries may name it, but nobody can order so
             continue;
         const VelTarmPriceView view(theProduct, source);
-        int smallest = NO_QUANTITY;
+        std::optional<int> smallest;
         for (const int level : levelsOf(theProduct, view)) {
             question.myInheritedLevel = level;
-            const int quantity = smallestQuantity(view, question);
-            if (quantity < smallest)
-                needs.append({source, quantity, level});
-            smallest = qMin(smallest, quantity);
+            const std::optional<int> quantity = smallestQuantity(view, question);
+            if (!quantity || (smallest && *quantity >= *smallest))
+                continue;
+            needs.append({source, *quantity, level});
+            smallest = quantity;
         }
     }
     return needs;

@@ -100,6 +100,15 @@ private slots:
         QCOMPARE(places.myDecides.first().myFile, myAccount.path("pricelist.xml"));
     }
 
+    /// A quantity like any other, and none is above it.
+    void needsTheHighestQuantity()
+    {
+        load(myAccount, article("<e level='1' quantity='2147483647' price='5'/>"));
+        const VelExplainedTerm term = VelPriceExplainer().price(*product(1), key(), 1).terms().first();
+        QVERIFY(!term.myNeeds.isEmpty());
+        QCOMPARE(term.myNeeds.first().myFrom, 2147483647);
+    }
+
 private:
     const TestAccount myAccount;
 };
