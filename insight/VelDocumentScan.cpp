@@ -128,9 +128,11 @@ bool VelDocumentScan::mend(int theOffset, XML_Error theError)
 {
     const bool isTwice = theError == XML_ERROR_DUPLICATE_ATTRIBUTE;
     const bool isJoined = theError == XML_ERROR_INVALID_TOKEN && theOffset > 0 && isQuote(at(theOffset - 1));
+    if (!isTwice && !isJoined) // the others may stand nowhere, as that of an empty text
+        return false;
     int value = 0;
     const int end = endOfAttribute(theOffset, value);
-    if ((!isTwice && !isJoined) || end < 0 || myPositions.myOddities.size() == MOST_ODDITIES)
+    if (end < 0 || myPositions.myOddities.size() == MOST_ODDITIES)
         return false;
     const QString reason = isTwice ? QStringLiteral("the attribute %1 stands twice; the last one is read")
                                    : QStringLiteral("there is no blank in front of the attribute %1");
