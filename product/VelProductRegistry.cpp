@@ -1,6 +1,5 @@
 #include "product/VelProductRegistry.h"
 
-#include "bill/VelTarmArticle.h"
 #include "frame/VelChildElements.h"
 #include "frame/VelDocumentMemory.h"
 #include "frame/VelGuardedInstance.h"
@@ -15,6 +14,7 @@
 #include "product/VelProductRegistryPaymentAgio.h"
 #include "product/VelProductRegistryTransferProducts.h"
 #include "product/VelProductSorting.h"
+#include "product/VelProductStock.h"
 #include "sibling/VelKeyAccount.h"
 #include "sibling/VelXMLLoader.h"
 #include "sibling/VelXMLParser.h"
@@ -40,12 +40,6 @@ bool isOfUnknownType(const VelProductAbstract* theProduct)
 {
     const auto* printFun = dynamic_cast<const VelProductPrintFun*>(theProduct);
     return printFun && printFun->productType().isUnknown();
-}
-
-/// The product as an add-on, by its class and not by the tag last read; null for any other.
-VelProductAddOn* asAddOn(VelProductAbstract* theProduct)
-{
-    return theProduct->isProductClass(PRODUCT_CLASS_ADD_ON) ? dynamic_cast<VelProductAddOn*>(theProduct) : nullptr;
 }
 
 QList<VelProductPrintFun*> booksOf(const VelProductList& theProducts)
@@ -88,7 +82,8 @@ VelProductRegistry* VelProductRegistry::instance()
 }
 
 VelProductRegistry::VelProductRegistry()
-    : myTransferProducts(new VelProductRegistryTransferProducts)
+    : myStock(new VelProductStock)
+    , myTransferProducts(new VelProductRegistryTransferProducts)
     , myExpressFees(new VelProductRegistryExpressFees)
     , myPaymentAgio(new VelProductRegistryPaymentAgio)
     , myFotoBookCache(new VelProductRegistryFotoBookCache)
@@ -99,12 +94,11 @@ VelProductRegistry::VelProductRegistry()
 
 VelProductRegistry::~VelProductRegistry()
 {
-    qDeleteAll(myProductList);
     delete myFotoBookCache;
     delete myPaymentAgio;
     delete myExpressFees;
     delete myTransferProducts;
-    qDeleteAll(myProductsByType);
+    delete myStock;
 }
 
 // ---- the way of a price list into the registry
@@ -125,7 +119,7 @@ void VelProductRegistry::loadAllProducts(const QFileInfo& theProductListFileInfo
 void VelProductRegistry::updateProducts(const QDomNode& theNode)
 {
     const VelKeptTexts reading;
-    const auto knownProducts = static_cast<int>(myProductList.size());
+    const auto knownProducts = static_cast<int>(myStock->products().size());
     myFotoBookCache->clear();
     setProductsDeprecated();
     readProducts(theNode.firstChildElement(STR_ARTICLES));
@@ -139,14 +133,15 @@ void VelProductRegistry::updateProducts(const QDomNode& theNode)
 
 void VelProductRegistry::setProductsDeprecated()
 {
-    for (VelProductAbstract* product : qAsConst(myProductList))
+    for (VelProductAbstract* product : myStock->products())
         product->setDeprecated(true);
 }
 
 void VelProductRegistry::readProducts(const QDomElement& theSection)
 {
-    // An id changes neither by an update with an element of that id nor otherwise while a section is read.
-    QHash<int, VelProductAbstract*> productsByID = firstProductsByArticleID();
+    // A lookup of its own: a scan of the list per element would make a load quadratic. An id changes neither by an
+    // update with an element of that id nor otherwise while a section is read.
+    QHash<int, VelProductAbstract*> productsByID = myStock->firstByArticleID();
     for (const QDomElement& element : VelChildElements(theSection)) {
         VelProductAbstract*& product = productsByID[VelXMLParser::intAttribute(element, STR_ID, 0)];
         if (product) {
@@ -162,19 +157,6 @@ void VelProductRegistry::readProducts(const QDomElement& theSection)
     }
 }
 
-/// The lookup of one section's reading: a scan of the list per element would make a load quadratic.
-QHash<int, VelProductAbstract*> VelProductRegistry::firstProductsByArticleID() const
-{
-    QHash<int, VelProductAbstract*> productsByID;
-    productsByID.reserve(myProductList.size());
-    for (VelProductAbstract* product : myProductList) {
-        VelProductAbstract*& first = productsByID[product->articleID()];
-        if (!first)
-            first = product;
-    }
-    return productsByID;
-}
-
 VelProductAbstract* VelProductRegistry::buildAbstractProduct(const QDomElement& theElement) const
 {
     return VelProductFactory::instance()->build(theElement);
@@ -182,14 +164,8 @@ VelProductAbstract* VelProductRegistry::buildAbstractProduct(const QDomElement& 
 
 void VelProductRegistry::insertProduct(VelProductAbstract* theProduct)
 {
-    if (!theProduct)
-        return;
-    myProductList.append(theProduct);
-    if (!theProduct->isPrintFunProduct())
-        return;
-    // A host may bring a product of a print-fun class that isn't one, and so has no type to file it under.
-    if (const auto* printFun = dynamic_cast<VelProductPrintFun*>(theProduct))
-        productsOfType(printFun->productType())->append(theProduct);
+    if (theProduct)
+        myStock->insert(theProduct);
 }
 
 void VelProductRegistry::readAdditionalPaymentFees(const QDomElement& theSection)
@@ -209,36 +185,30 @@ void VelProductRegistry::readExpressFees(const QDomElement& theSection)
 
 void VelProductRegistry::countProducts(int theKnownProducts)
 {
-    const auto deprecated = static_cast<int>(
-        std::count_if(myProductList.cbegin(), myProductList.cend(),
-                      [](const VelProductAbstract* theProduct) { return theProduct->isDeprecated(); }));
-    myLastLoad.setProducts(static_cast<int>(myProductList.size()) - theKnownProducts, theKnownProducts - deprecated,
+    const VelProductList& products = myStock->products();
+    const auto deprecated =
+        static_cast<int>(std::count_if(products.cbegin(), products.cend(), [](const VelProductAbstract* theProduct) {
+            return theProduct->isDeprecated();
+        }));
+    myLastLoad.setProducts(static_cast<int>(products.size()) - theKnownProducts, theKnownProducts - deprecated,
                            deprecated);
+}
+
+QList<VelProductAbstract*> VelProductRegistry::productList() const
+{
+    return myStock->products();
 }
 
 // ---- one product
 
-/// Through an index that is made anew when any article's id has changed or the list has grown since.
 VelProductAbstract* VelProductRegistry::productWithArticleID(int theArticleID) const
 {
-    if (myIndexedIdChanges != VelTarmArticle::idChanges() || myIndexedProducts != myProductList.size()) {
-        myProductsByArticleID = firstProductsByArticleID();
-        myIndexedIdChanges = VelTarmArticle::idChanges();
-        myIndexedProducts = myProductList.size();
-    }
-    return myProductsByArticleID.value(theArticleID, nullptr);
-}
-
-template <typename Predicate>
-VelProductAbstract* VelProductRegistry::firstProduct(Predicate thePredicate) const
-{
-    const auto found = std::find_if(myProductList.cbegin(), myProductList.cend(), thePredicate);
-    return found == myProductList.cend() ? nullptr : *found;
+    return myStock->withArticleID(theArticleID);
 }
 
 VelProductAbstract* VelProductRegistry::findProduct(const QString& theName, const VelProductGroup& theGroup) const
 {
-    return firstProduct([&](const VelProductAbstract* theProduct) {
+    return myStock->first([&](const VelProductAbstract* theProduct) {
         return theProduct->isProductGroup(theGroup) && theProduct->name() == theName;
     });
 }
@@ -283,13 +253,7 @@ VelProductAbstract* VelProductRegistry::findPrintFun(const VelProductType& theTy
 
 VelProductAbstract* VelProductRegistry::findProductWithOrderTXTType(const QString& theType) const
 {
-    if (VelProductAbstract* known = myProductsByOrderTxtType.value(theType, nullptr))
-        return known;
-    VelProductAbstract* product =
-        firstProduct([&](const VelProductAbstract* theProduct) { return theProduct->orderTxtType() == theType; });
-    if (product)
-        myProductsByOrderTxtType.insert(theType, product);
-    return product;
+    return myStock->withOrderTxtType(theType);
 }
 
 VelProductAbstract* VelProductRegistry::findProductWithOrderTXTHead(const QString& theHead,
@@ -297,7 +261,7 @@ VelProductAbstract* VelProductRegistry::findProductWithOrderTXTHead(const QStrin
 {
     if (theHead.isEmpty())
         return nullptr;
-    return firstProduct([&](const VelProductAbstract* theProduct) {
+    return myStock->first([&](const VelProductAbstract* theProduct) {
         return theProduct->orderTxtHead() == theHead && theProduct->isProductGroup(theGroup);
     });
 }
@@ -308,7 +272,7 @@ VelProductAbstract* VelProductRegistry::findProductWithOrderTXTHead(const QStrin
 {
     if (theHead.isEmpty())
         return nullptr;
-    return firstProduct([&](const VelProductAbstract* theProduct) {
+    return myStock->first([&](const VelProductAbstract* theProduct) {
         return theProduct->orderTxtHead() == theHead && theProduct->isProductGroup(theGroup) &&
                theProduct->orderTxtValue(STR_BORDER) == theBorder;
     });
@@ -336,32 +300,9 @@ VelProductAbstract* VelProductRegistry::mostEquivalentProduct(VelProductAbstract
 
 // ---- the add-ons of a main product
 
-template <typename Predicate>
-VelProductAddOn* VelProductRegistry::firstAddOn(Predicate thePredicate) const
-{
-    for (VelProductAbstract* product : myProductList) {
-        VelProductAddOn* addOn = asAddOn(product);
-        if (addOn && thePredicate(addOn))
-            return addOn;
-    }
-    return nullptr;
-}
-
-template <typename Predicate>
-QList<VelProductAddOn*> VelProductRegistry::addOns(Predicate thePredicate) const
-{
-    QList<VelProductAddOn*> found;
-    for (VelProductAbstract* product : myProductList) {
-        VelProductAddOn* addOn = asAddOn(product);
-        if (addOn && thePredicate(addOn))
-            found.append(addOn);
-    }
-    return found;
-}
-
 VelProductAddOn* VelProductRegistry::supplement(int theArticleID, const QString& theProductClass) const
 {
-    return firstAddOn(
+    return myStock->firstAddOn(
         [&](const VelProductAddOn* theAddOn) { return theAddOn->matches(theArticleID, theProductClass); });
 }
 
@@ -383,26 +324,27 @@ bool VelProductRegistry::productHasSupplement(int theArticleID, const QString& t
 
 QList<VelProductAddOn*> VelProductRegistry::possibleAddOns(int theArticleID) const
 {
-    return addOns([=](const VelProductAddOn* theAddOn) { return theAddOn->isCompatibleWithArticleId(theArticleID); });
+    return myStock->addOns(
+        [=](const VelProductAddOn* theAddOn) { return theAddOn->isCompatibleWithArticleId(theArticleID); });
 }
 
 QList<VelProductAddOn*> VelProductRegistry::possibleSupplements(int theArticleID) const
 {
-    return addOns([=](const VelProductAddOn* theAddOn) {
+    return myStock->addOns([=](const VelProductAddOn* theAddOn) {
         return theAddOn->isCompatibleWithArticleId(theArticleID) && theAddOn->isOrderableByUser();
     });
 }
 
 QList<VelProductAddOn*> VelProductRegistry::findPossibleFrames(int theArticleID) const
 {
-    return addOns([=](const VelProductAddOn* theAddOn) {
+    return myStock->addOns([=](const VelProductAddOn* theAddOn) {
         return theAddOn->isFrame() && theAddOn->isCompatibleWithArticleId(theArticleID);
     });
 }
 
 VelProductAddOn* VelProductRegistry::findPagePackage(int theArticleID) const
 {
-    return firstAddOn([=](const VelProductAddOn* theAddOn) {
+    return myStock->firstAddOn([=](const VelProductAddOn* theAddOn) {
         return theAddOn->isPagePackage() && theAddOn->isCompatibleWithArticleId(theArticleID);
     });
 }
@@ -428,15 +370,12 @@ QString VelProductRegistry::qrCodePriceText(const VelProductType& theType) const
 
 VelProductList* VelProductRegistry::productsOfType(const VelProductType& theType) const
 {
-    VelProductList*& list = myProductsByType[theType.type()];
-    if (!list)
-        list = new VelProductList;
-    return list;
+    return myStock->ofType(theType);
 }
 
 QList<VelProductPrintFun*> VelProductRegistry::fotoBooks() const
 {
-    return booksOf(myProductList);
+    return booksOf(myStock->products());
 }
 
 QList<VelProductPrintFun*> VelProductRegistry::fotoBooks(const VelProductType& theType) const
@@ -446,29 +385,23 @@ QList<VelProductPrintFun*> VelProductRegistry::fotoBooks(const VelProductType& t
 
 VelProductList VelProductRegistry::findProductListWithOrderTxtType(const QString& theType) const
 {
-    VelProductList products;
-    for (VelProductAbstract* product : myProductList)
-        if (product->orderTxtType() == theType)
-            products.append(product);
-    return products;
+    return myStock->all([&](const VelProductAbstract* theProduct) { return theProduct->orderTxtType() == theType; });
 }
 
 VelProductList VelProductRegistry::productsForShippingGroup(int theId, bool theIncludeAddOns) const
 {
-    VelProductList products;
-    for (VelProductAbstract* product : myProductList)
-        if (product->isAddOn() ? theIncludeAddOns : product->shippingGroupId() == theId)
-            products.append(product);
+    VelProductList products = myStock->all([=](const VelProductAbstract* theProduct) {
+        return theProduct->isAddOn() ? theIncludeAddOns : theProduct->shippingGroupId() == theId;
+    });
     sortProductsByNumber(products);
     return products;
 }
 
 VelProductList VelProductRegistry::productsForProductGroup(const VelProductGroup& theGroup, bool theIncludeAddOns) const
 {
-    VelProductList products;
-    for (VelProductAbstract* product : myProductList)
-        if (product->isProductGroup(theGroup) || (theIncludeAddOns && product->isAddOn()))
-            products.append(product);
+    VelProductList products = myStock->all([&](const VelProductAbstract* theProduct) {
+        return theProduct->isProductGroup(theGroup) || (theIncludeAddOns && theProduct->isAddOn());
+    });
     sortProductsByNumber(products);
     return products;
 }
@@ -499,18 +432,18 @@ bool VelProductRegistry::productExists(const QString& theText) const
 
 bool VelProductRegistry::containsProductGroup(const VelProductGroup& theGroup) const
 {
-    return firstProduct(
+    return myStock->first(
         [&](const VelProductAbstract* theProduct) { return theProduct->productGroup().value() == theGroup.value(); });
 }
 
 bool VelProductRegistry::shippingTimesEnabled() const
 {
-    return firstProduct([](const VelProductAbstract* theProduct) { return theProduct->shippingTimesEnabled(); });
+    return myStock->first([](const VelProductAbstract* theProduct) { return theProduct->shippingTimesEnabled(); });
 }
 
 bool VelProductRegistry::shippingGroupHasNonPrintFunProducts(int theId) const
 {
-    return firstProduct([=](const VelProductAbstract* theProduct) {
+    return myStock->first([=](const VelProductAbstract* theProduct) {
         return !theProduct->isAddOn() && theProduct->shippingGroupId() == theId && !theProduct->isPrintFunProduct();
     });
 }
@@ -518,7 +451,7 @@ bool VelProductRegistry::shippingGroupHasNonPrintFunProducts(int theId) const
 bool VelProductRegistry::containsDiscountModel(int theShippingGroupId, const VelTarmPriceKey& theKey,
                                                VelDiscountModel theModel) const
 {
-    return firstProduct([&](const VelProductAbstract* theProduct) {
+    return myStock->first([&](const VelProductAbstract* theProduct) {
         return (theProduct->isAddOn() || theProduct->shippingGroupId() == theShippingGroupId) &&
                hasLimitOfModel(theProduct->discountLimits(theKey), theModel);
     });
