@@ -107,10 +107,9 @@ void VelDocumentScan::listen()
         [](void* theScan) { static_cast<Scan>(theScan)->endText(); });
 }
 
-/// The offset that expat has come to: -1 of its in an empty text is the begin.
 int VelDocumentScan::here() const
 {
-    return qMax(0, static_cast<int>(XML_GetCurrentByteIndex(myParser)));
+    return static_cast<int>(XML_GetCurrentByteIndex(myParser));
 }
 
 void VelDocumentScan::clear()
