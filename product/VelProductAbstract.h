@@ -115,8 +115,8 @@ public:
 
     /// Whether the product's class and the mask share a bit.
     bool isProductClass(VelProductClass theMask) const { return (myProductClass & theMask) != 0; }
-    /// Whether it is a book, a calendar, a card or a gift: its class has a bit of PRODUCT_CLASS_PRINT_FUN_MASK. False for
-    /// add-ons, also for those that fit such products.
+    /// Whether it is a book, a calendar, a card or a gift: its class has a bit of PRODUCT_CLASS_PRINT_FUN_MASK. False
+    /// for add-ons, also for those that fit such products.
     bool isPrintFunProduct() const { return isProductClass(PRODUCT_CLASS_PRINT_FUN_MASK); }
     /// Whether it is a book of any type: its class has the bit PRODUCT_CLASS_FOTO_BOOK.
     bool isKindOfBook() const { return isProductClass(PRODUCT_CLASS_FOTO_BOOK); }
