@@ -72,6 +72,15 @@ void printTerm(const VelExplainedTerm& theTerm, bool theIsAll, QTextStream& theO
     printPlaces("compared:", theTerm.myPlaces.myCompared, 4, theOutput);
 }
 
+/// As ", 51 to 100"; an inherited level holds whatever the quantity.
+QString bandText(const VelExplainedCandidate& theCandidate)
+{
+    if (theCandidate.myModel == DISCOUNT_MODEL_INHERITED_DISCOUNT)
+        return QString();
+    return QStringLiteral(", ") + VelshopWords::band({theCandidate.myModel, theCandidate.myFrom, theCandidate.myTo,
+                                                      theCandidate.myLevel, false});
+}
+
 } // namespace
 
 QString termText(const VelExplainedTerm& theTerm)
@@ -107,10 +116,7 @@ QString candidateText(const VelExplainedCandidate& theCandidate)
 {
     QString text = VelshopWords::discountModel(theCandidate.myModel);
     if (theCandidate.myLevel != VelExplainedCandidate::NONE)
-        text += QStringLiteral(", level %1, %2")
-                    .arg(QString::number(theCandidate.myLevel),
-                         VelshopWords::band({theCandidate.myModel, theCandidate.myFrom, theCandidate.myTo,
-                                             theCandidate.myLevel, false}));
+        text += QStringLiteral(", level %1").arg(theCandidate.myLevel) + bandText(theCandidate);
     if (theCandidate.myAmount != -1)
         text += QStringLiteral(": ") + VelshopWords::money(theCandidate.myAmount);
     if (!theCandidate.myComputed.isEmpty())

@@ -192,6 +192,8 @@ QString VelPriceCandidates::verdictOnLoser(VelDiscountModel theModel, const VelT
 
 QString VelPriceCandidates::whyTaken() const
 {
+    if (myTaken.myChargeCount == 0)
+        return whyNothingCharged();
     QString why;
     const QList<VelDiscountModel> models = myQuestion.models(myView);
     const auto hasPrice = [this](VelDiscountModel theModel) {
@@ -213,6 +215,16 @@ QString VelPriceCandidates::whyTaken() const
             QStringLiteral("; a package of level %1 (%2) and the rest by the piece")
                 .arg(QString::number(myTaken.myCharges[0].myLevel), VelPriceWords::band(*myTaken.myCharges[0].myBand));
     return why;
+}
+
+/// A quantity or a sum of 0 costs nothing, whatever the entries say.
+QString VelPriceCandidates::whyNothingCharged() const
+{
+    if (myTaken.myModel == DISCOUNT_MODEL_BILLING_SUM_TRANSFER)
+        return QStringLiteral("the articles come to nothing, so it costs nothing");
+    return myTaken.myModel == DISCOUNT_MODEL_BULK_TRANSFER
+               ? QStringLiteral("no piece counts, as add-ons and what has no price don't, so it costs nothing")
+               : QStringLiteral("no piece counts, so it costs nothing");
 }
 
 /// The first condition that failed.
@@ -295,7 +307,10 @@ QString VelPriceCandidates::reached() const
     const VelTarmPriceBand* band = bandOf(myTaken);
     if (!band || isUnderAllBands(myTaken))
         return QString();
-    return QStringLiteral("level %1, %2").arg(QString::number(band->discountLevel()), VelPriceWords::band(*band));
+    const QString level = QStringLiteral("level %1").arg(band->discountLevel());
+    if (myTaken.myModel == DISCOUNT_MODEL_INHERITED_DISCOUNT) // whose quantities play no part
+        return level;
+    return level + QStringLiteral(", ") + VelPriceWords::band(*band);
 }
 
 /// The nearest higher level that more pieces, or more money, would reach.

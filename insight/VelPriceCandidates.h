@@ -31,6 +31,7 @@ private:
     QString verdict(VelDiscountModel theModel, const VelTarmPriceAnswer& theAnswer) const;
     QString verdictOnLoser(VelDiscountModel theModel, const VelTarmPriceAnswer& theAnswer) const;
     QString whyTaken() const;
+    QString whyNothingCharged() const;
     QString whyNoPrice(VelDiscountModel theModel, const VelTarmPriceAnswer& theAnswer) const;
     QString whyNothingReached(VelDiscountModel theModel) const;
     QString whyNoPriceAtAll() const;

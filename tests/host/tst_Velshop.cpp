@@ -29,7 +29,7 @@ private slots:
             map of gaps             | gaps --group 1                   | Indexprint zur CD  -        -         yes; Online-Übe…  yes
             list of another source  | list --source CD                 | BY CD, MAIL; 1,99 €    yes        yes
             why a package           | explain 131 80                   | 1 x 990; package: it wins at once; 21 more reach; pricelist.xml:340:56: price="990"
-            why an inherited price  | explain 5002 6 --level 1 --all   | inherited discount, level 1, 3 to 9: 13,74 €; type="I"; compared:
+            why an inherited price  | explain 5002 6 --level 1 --all   | inherited discount, level 1: 13,74 €; type="I"; compared:
             why a fee costs that    | explain 13041 5                  | express 13041; 7,90 €; level 1, from 5; price="790"
             why a payment           | explain 12008 1                  | payment 12008; 5,90 €; price="590"
             what a voucher leaves   | explain tests/host/bills/voucher.json | 4055 of it is left; 4055 of it was left; 0 of it is left after this bill

@@ -72,6 +72,9 @@ private slots:
                             << "entry of price -1 at level 0";
         QTest::newRow("source") << "<e price='5' input_source='1' delivery_type='1'/>" << 1 << ""
                                 << "no entry for NET, MAIL, only for CD, MAIL";
+        QTest::newRow("nothing")
+            << "<e type='F' price='5'/>" << 0 << ""
+            << "taken: no piece counts, as add-ons and what has no price don't, so it costs nothing";
     }
 
     void tellsWhyAModelWasTaken()
