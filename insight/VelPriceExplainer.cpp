@@ -22,7 +22,7 @@ VelPriceExplanation VelPriceExplainer::price(const VelProductAbstract& theProduc
 {
     VelInheritedLevel inherited = inheritedLevel(theProduct, theBill, false);
     if (theInheritedLevel != LEVEL_OF_BILL)
-        inherited = {theInheritedLevel, nullptr};
+        inherited = {theInheritedLevel, nullptr, false};
     const VelPriceQuestion question{theKey.orderSource(), theCount, theBillingSum, inherited.myLevel,
                                     theKey.discountModel() == DISCOUNT_MODEL_EXPRESS_FEE};
     VelExplainedTerm term = VelTermExplainer(*mySources).term(theProduct, question, theStatistic);

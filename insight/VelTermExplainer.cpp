@@ -45,26 +45,31 @@ VelInheritedLevel inheritedLevel(const VelProductAbstract& theProduct, const Vel
     const auto* addOn = dynamic_cast<const VelProductAddOn*>(&theProduct);
     if (!addOn || !theBill)
         return inherited;
+    inherited.myIsOfBill = true;
     for (const int id : addOn->articleIDs()) {
         const VelProductAbstract* main = VelProductRegistry::instance()->productWithArticleID(id);
         if (!main || (theIsInBill && !std::less<const VelProductAbstract*>()(main, &theProduct)))
             continue;
         const VelTarmBillPosition* position = theBill->billPosition(main);
-        if (position && position->discountLevel() > inherited.myLevel)
-            inherited = {position->discountLevel(), main};
+        const int level = position ? position->discountLevel() : -1;
+        if (level > inherited.myLevel || (level == inherited.myLevel && !inherited.myMainProduct))
+            inherited = {level, main, true};
     }
     return inherited;
 }
 
 void tellInheritance(VelExplainedTerm& theTerm, const VelInheritedLevel& theInherited)
 {
-    const auto inherits = [](const VelExplainedCandidate& theCandidate) {
-        return theCandidate.myIsTaken && theCandidate.myModel == DISCOUNT_MODEL_INHERITED_DISCOUNT;
+    const auto inherits = [&](const VelExplainedCandidate& theCandidate) {
+        return theCandidate.myModel == DISCOUNT_MODEL_INHERITED_DISCOUNT &&
+               (theCandidate.myIsTaken || !theTerm.myHasPrice);
     };
-    if (theInherited.myMainProduct && std::any_of(theTerm.myCandidates.cbegin(), theTerm.myCandidates.cend(), inherits))
-        theTerm.myReason +=
-            QStringLiteral("; inherits level %1 of %2")
-                .arg(QString::number(theInherited.myLevel), VelPriceWords::product(*theInherited.myMainProduct));
+    if (!theInherited.myIsOfBill || std::none_of(theTerm.myCandidates.cbegin(), theTerm.myCandidates.cend(), inherits))
+        return;
+    const VelProductAbstract* main = theInherited.myMainProduct;
+    theTerm.myReason += main ? QStringLiteral("; inherits level %1 of %2")
+                                   .arg(QString::number(theInherited.myLevel), VelPriceWords::product(*main))
+                             : QStringLiteral("; no main product on the bill gives it a level");
 }
 
 VelExplainedTerm VelTermExplainer::term(const VelProductAbstract& theProduct, const VelPriceQuestion& theQuestion,

@@ -14,6 +14,7 @@ struct VelInheritedLevel
 {
     int myLevel = 0;
     const VelProductAbstract* myMainProduct = nullptr;
+    bool myIsOfBill = false; ///< whether a bill was asked for it
 };
 
 /// What the add-on inherits in the bill; nothing for a product of another kind and without a bill. While a bill is

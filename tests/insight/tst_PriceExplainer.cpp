@@ -91,6 +91,24 @@ private slots:
         QCOMPARE(term.myAmount, product(1)->priceFor(key(), count, 0, nullptr, nullptr));
     }
 
+    /// Also a level of 0, and where it gives no price.
+    void namesTheMainProduct()
+    {
+        load(myAccount, "<p><articles><article id='1' name='Print' arrangement='trivial'><base_prices><e price='5'/>"
+                        "</base_prices></article></articles><add_ons><add_on id='2' product_class='X'><base_prices>"
+                        "<e type='I' level='1' price='3'/></base_prices><linked_articles><linked_article id='1'/>"
+                        "</linked_articles></add_on></add_ons></p>");
+        VelOrderStatistic cart;
+        cart.insert(product(1), 1);
+        const VelTarmBill bill(-1, cart, VelExpressType(), VelTarmStatus());
+        const auto reason = [](const VelTarmBill& theBill) {
+            return VelPriceExplainer().price(*product(2), key(), 1, &theBill).terms().first().myReason;
+        };
+        QVERIFY2(reason(bill).endsWith("or below it; inherits level 0 of 1 Print"), qUtf8Printable(reason(bill)));
+        const VelTarmBill none(-1, VelOrderStatistic(), VelExpressType(), VelTarmStatus());
+        QVERIFY2(reason(none).endsWith("; no main product on the bill gives it a level"), qUtf8Printable(reason(none)));
+    }
+
     /// The amount is made of the entry that was read last of its key, and of its defaults.
     void namesPlaces()
     {
