@@ -17,6 +17,8 @@ const QString STR_MINIMUM_QUANTITY = QStringLiteral("minimum_quantity");
 const QString STR_CAMPAIGN = QStringLiteral("campaign_no");
 const QString STR_CONDITION = QStringLiteral("condition");
 const QString STR_ARTICLE = QStringLiteral("art_id");
+const QString STR_ID = QStringLiteral("id");
+const QString STR_MAX_ORDER_ITEMS = QStringLiteral("max_order_items");
 const QString STR_SHIPPING_TIMES = QStringLiteral("shipping_times");
 
 bool isOfMoney(const VelCoupon& theCoupon)
@@ -24,14 +26,26 @@ bool isOfMoney(const VelCoupon& theCoupon)
     return theCoupon.type() == COUPON_TYPE_VALUE || theCoupon.type() == COUPON_TYPE_PERCENT;
 }
 
-/// The articles that count, as "all articles" or "the articles 9171, 9210".
+/// The articles that count, as "all articles", "article 9171" or "the articles 9171, 9210".
 QString articles(const VelCoupon& theCoupon)
 {
     QStringList ids;
     for (const int id : theCoupon.validArticles())
         ids.append(QString::number(id));
+    if (ids.size() == 1)
+        return QStringLiteral("article ") + ids.first();
     return ids.isEmpty() ? QStringLiteral("all articles")
                          : QStringLiteral("the articles ") + ids.join(QStringLiteral(", "));
+}
+
+/// As "the minimum of 2000 is missed by 705".
+QString minimum(qint64 theValue, int theMinimum)
+{
+    const qint64 beyond = theValue - theMinimum;
+    return QStringLiteral("the minimum of %1 is %2 by %3")
+        .arg(theMinimum)
+        .arg(beyond < 0 ? QStringLiteral("missed") : QStringLiteral("met"))
+        .arg(qAbs(beyond));
 }
 
 } // namespace
@@ -80,21 +94,19 @@ QString VelCouponExplainer::use(const VelCoupon& theCoupon, const VelCouponUse& 
 QString VelCouponExplainer::percentOrValue(const VelCoupon& theCoupon, const VelCouponUse& theUse) const
 {
     const int value = theCoupon.totalValueOfOrder(myBill);
-    const qint64 beyond = static_cast<qint64>(value) - theCoupon.minimumSpentValue();
-    const QString minimum = QStringLiteral("%1 come to %2, the minimum of %3 is %4 by %5")
-                                .arg(articles(theCoupon))
-                                .arg(value)
-                                .arg(theCoupon.minimumSpentValue())
-                                .arg(beyond < 0 ? QStringLiteral("missed") : QStringLiteral("met"))
-                                .arg(qAbs(beyond));
+    const QString spent =
+        QStringLiteral("%1 %2 to %3, %4")
+            .arg(articles(theCoupon),
+                 theCoupon.validArticles().size() == 1 ? QStringLiteral("comes") : QStringLiteral("come"),
+                 QString::number(value), minimum(value, theCoupon.minimumSpentValue()));
     if (theCoupon.type() == COUPON_TYPE_PERCENT)
         return QStringLiteral("%1 %: %2; that is %3")
             .arg(theCoupon.discountPercentage())
-            .arg(minimum)
+            .arg(spent)
             .arg(theCoupon.percentDiscount(myBill));
     return QStringLiteral("value %1: %2; %3 of it was left")
         .arg(theCoupon.maximumDiscountValue())
-        .arg(minimum)
+        .arg(spent)
         .arg(theUse.myLeftBefore);
 }
 
@@ -104,12 +116,11 @@ QString VelCouponExplainer::freePieces(const VelCoupon& theCoupon) const
     part.filterArticles(theCoupon.validArticles());
     part.filterOutPackages();
     const int count = part.totalItemCount(VelProductGroup(PRODUCT_GROUP_ALL));
-    const QString piece = QStringLiteral("piece");
     QString text =
-        QStringLiteral("%1 from %2 on: %3 of %4 without packages, the cheapest at %5")
+        QStringLiteral("%1: %2 of %3 without packages, %4, the cheapest at %5")
             .arg(VelPriceWords::counted(theCoupon.freeQuantity(), QStringLiteral("free piece")),
-                 VelPriceWords::counted(theCoupon.minimumQuantity(), piece), VelPriceWords::counted(count, piece),
-                 articles(theCoupon), QString::number(part.unitPriceOfCheapestArticle()));
+                 VelPriceWords::counted(count, QStringLiteral("piece")), articles(theCoupon),
+                 minimum(count, theCoupon.minimumQuantity()), QString::number(part.unitPriceOfCheapestArticle()));
     if (theCoupon.validArticles().contains(myBill.idOfTransferProduct()))
         text += QStringLiteral("; it pays the shipping of %1").arg(myBill.transferFee());
     return text + QStringLiteral("; that is %1").arg(theCoupon.quantityDiscount(myBill));
@@ -140,7 +151,7 @@ void VelCouponExplainer::cite(VelExplainedPlaces& thePlaces, const VelCoupon& th
 /// can't be had by.
 void VelCouponExplainer::citeObjections(QVector<VelExplainedPlace>& thePlaces) const
 {
-    mySources.citeAll(thePlaces, mySources.shippingGroup(myBill.shippingGroup()));
+    mySources.cite(thePlaces, mySources.shippingGroup(myBill.shippingGroup()), {STR_ID, STR_MAX_ORDER_ITEMS});
     for (const VelProductAbstract* product : myBill.cart().products())
         for (const QDomElement& time :
              VelChildElements(mySources.element(*product).firstChildElement(STR_SHIPPING_TIMES)))
