@@ -29,6 +29,13 @@ void waive(VelExplainedTerm& theTerm, int theAmount, const QString& theReason)
     theTerm.myPlaces.myDecides.clear();
 }
 
+/// A fee without a price, or one that would give money back.
+QString whyBelowNothing(const VelExplainedTerm& theTerm)
+{
+    return theTerm.myHasPrice ? QStringLiteral("%1 is below 0, and such a fee isn't charged").arg(theTerm.myAmount)
+                              : theTerm.myReason;
+}
+
 } // namespace
 
 VelBillExplainer::VelBillExplainer(const VelTarmBill& theBill, const VelExplanationSources& theSources)
@@ -136,7 +143,7 @@ void VelBillExplainer::appendPayment(QVector<VelExplainedTerm>& theTerms, int th
     if (myBill.totalPriceIsVoid(theCouponAmount))
         waive(term, amount, QStringLiteral("articles, shipping and coupon come to nothing, so no payment is charged"));
     else if (term.myAmount < 0)
-        waive(term, amount, QStringLiteral("costs nothing: ") + term.myReason);
+        waive(term, amount, QStringLiteral("costs nothing: ") + whyBelowNothing(term));
     else if (term.myAmount != amount)
         waive(term, amount, QStringLiteral("filtered out: the fee is not among the articles of the bill"));
     const QDomElement source = mySources.orderSource(myBill.status().orderSource());
