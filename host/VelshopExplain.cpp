@@ -127,13 +127,11 @@ void printJson(const Answer& theAnswer, QTextStream& theOutput)
 
 void printText(const Answer& theAnswer, bool theIsAll, QTextStream& theOutput)
 {
-    const QString head = (QStringList{theAnswer.myHead} + theAnswer.myNotes).join(QLatin1Char('\n'));
-    if (theAnswer.myBefore) {
-        theOutput << head << '\n';
+    printHead(QStringList{theAnswer.myHead} + theAnswer.myNotes, theOutput);
+    if (theAnswer.myBefore)
         printComparison(*theAnswer.myBefore, theAnswer.myExplanation, theOutput);
-    } else {
-        printExplanation(theAnswer.myExplanation, head, theIsAll, theOutput);
-    }
+    else
+        printExplanation(theAnswer.myExplanation, theIsAll, theOutput);
 }
 
 bool writePage(const VelshopExplainArguments& theArguments, const Answer& theAnswer, VelshopError& theError)

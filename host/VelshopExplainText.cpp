@@ -15,28 +15,37 @@ QString spaces(int theCount)
     return QString(theCount, QLatin1Char(' '));
 }
 
-/// In lines of the terminal's width, the following ones two further in.
-void printWrapped(const QString& theText, int theIndent, QTextStream& theOutput)
+/// In lines of that width, the following ones two further in.
+QStringList wrapped(const QString& theText, int theIndent, int theWidth)
 {
+    QStringList lines;
     QString line = spaces(theIndent);
     bool isEmpty = true;
     for (const QString& word : theText.split(QLatin1Char(' '))) {
-        if (!isEmpty && line.size() + 1 + word.size() > WIDTH) {
-            theOutput << line << '\n';
+        if (!isEmpty && line.size() + 1 + word.size() > theWidth) {
+            lines.append(line);
             line = spaces(theIndent + 2);
             isEmpty = true;
         }
         line += isEmpty ? word : QLatin1Char(' ') + word;
         isEmpty = false;
     }
-    theOutput << line << '\n';
+    return lines << line;
 }
 
-/// A line with the amount at its right end.
-void printAmount(const QString& theText, const QString& theAmount, QTextStream& theOutput)
+void printWrapped(const QString& theText, int theIndent, QTextStream& theOutput)
+{
+    for (const QString& line : wrapped(theText, theIndent, WIDTH))
+        theOutput << line << '\n';
+}
+
+/// With the amount at the right end of the last line.
+void printAmount(const QString& theText, int theIndent, const QString& theAmount, QTextStream& theOutput)
 {
     const int room = WIDTH - static_cast<int>(theAmount.size()) - 2;
-    theOutput << theText.leftJustified(room) << "  " << theAmount << '\n';
+    QStringList lines = wrapped(theText, theIndent, room);
+    lines.last() = lines.last().leftJustified(room) + spaces(2) + theAmount;
+    theOutput << lines.join(QLatin1Char('\n')) << '\n';
 }
 
 void printPlaces(const char* theHead, const QVector<VelExplainedPlace>& thePlaces, int theIndent,
@@ -58,7 +67,7 @@ void printChargedPlaces(const VelExplainedTerm& theTerm, QTextStream& theOutput)
 
 void printTerm(const VelExplainedTerm& theTerm, bool theIsAll, QTextStream& theOutput)
 {
-    printAmount(spaces(2) + termText(theTerm), amountText(theTerm.myHasPrice, theTerm.myAmount), theOutput);
+    printAmount(termText(theTerm), 2, amountText(theTerm.myHasPrice, theTerm.myAmount), theOutput);
     printWrapped(theTerm.myComputed.isEmpty() ? theTerm.myReason
                                               : theTerm.myComputed + QStringLiteral("; ") + theTerm.myReason,
                  4, theOutput);
@@ -145,17 +154,22 @@ QString placeText(const VelExplainedPlace& thePlace)
         .arg(value);
 }
 
-void printExplanation(const VelPriceExplanation& theExplanation, const QString& theHead, bool theIsAll,
-                      QTextStream& theOutput)
+void printHead(const QStringList& theLines, QTextStream& theOutput)
 {
-    theOutput << theHead << '\n';
+    for (const QString& line : theLines)
+        printWrapped(line, 0, theOutput);
+}
+
+void printExplanation(const VelPriceExplanation& theExplanation, bool theIsAll, QTextStream& theOutput)
+{
     const VelExplainedTerm* former = nullptr;
     for (const VelExplainedTerm& term : theExplanation.terms()) {
         if (beginsGroup(former, term))
-            theOutput << groupText(term.myGroup) << '\n';
+            printWrapped(groupText(term.myGroup), 0, theOutput);
         printTerm(term, theIsAll, theOutput);
         former = &term;
     }
     if (theExplanation.terms().size() != 1)
-        printAmount(QStringLiteral("total"), amountText(theExplanation.hasPrice(), theExplanation.total()), theOutput);
+        printAmount(QStringLiteral("total"), 0, amountText(theExplanation.hasPrice(), theExplanation.total()),
+                    theOutput);
 }

@@ -8,10 +8,12 @@
 
 class QTextStream;
 
+/// Prints what is explained, and what is to be noted of it, in lines of a terminal's width.
+void printHead(const QStringList& theLines, QTextStream& theOutput);
+
 /// Prints an explanation for people: for each term a line, its reason and the places of its prices; on request every
-/// candidate and every place. The head says what is explained.
-void printExplanation(const VelPriceExplanation& theExplanation, const QString& theHead, bool theIsAll,
-                      QTextStream& theOutput);
+/// candidate and every place.
+void printExplanation(const VelPriceExplanation& theExplanation, bool theIsAll, QTextStream& theOutput);
 
 /// As "2 Roll bundle M, 80 pieces".
 QString termText(const VelExplainedTerm& theTerm);
