@@ -17,6 +17,7 @@
 #include "insight/VelPriceExplainer.h"
 #include "price/VelTarmPriceView.h"
 #include "product/VelProductAbstract.h"
+#include "product/VelProductRegistry.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -59,10 +60,28 @@ VelPriceExplanation withoutPrice(VelExplainedTerm theTerm)
     return {{theTerm}, -1};
 }
 
+QStringList notOrderable(const QStringList& theProblems)
+{
+    QStringList notes;
+    for (const QString& problem : theProblems)
+        notes.append(QStringLiteral("not orderable: ") + problem);
+    return notes;
+}
+
+/// The library charges amounts below 0 and packages without an end; the desk sells nothing at them.
+QStringList notesOnArticle(VelProductAbstract* theProduct, const VelshopExplainArguments& theArguments,
+                           const VelOrderSource& theSource)
+{
+    const bool isArticle = VelProductRegistry::instance()->productWithArticleID(theArguments.myArticle) == theProduct;
+    if (!isArticle || theArguments.myLevel != 0)
+        return {};
+    return notOrderable(VelshopProblems::ofPrice(theProduct, theArguments.myCount, theSource));
+}
+
 bool explainArticle(const VelshopExplainArguments& theArguments, Answer& theAnswer, VelshopError& theError)
 {
     VelDiscountModel keyModel = DISCOUNT_MODEL_UNDEFINED;
-    const VelProductAbstract* product = findArticleOrFee(theArguments.myArticle, keyModel, theError);
+    VelProductAbstract* product = findArticleOrFee(theArguments.myArticle, keyModel, theError);
     VelOrderSource source = VelOrderSource::onlineMailOrder();
     if (!product || !theArguments.myWhatIf.source().complete(source, theError))
         return false;
@@ -77,6 +96,8 @@ bool explainArticle(const VelshopExplainArguments& theArguments, Answer& theAnsw
                                                         SUM_OF_FEE, theArguments.myLevel);
     if (product->transferModel() == TRANSFER_MODEL_2)
         theAnswer.myExplanation = withoutPrice(theAnswer.myExplanation.terms().first());
+    if (theAnswer.myExplanation.hasPrice())
+        theAnswer.myNotes = notesOnArticle(product, theArguments, source);
     return true;
 }
 
@@ -93,8 +114,7 @@ bool explainOrder(const VelshopCart& theCart, VelPriceExplanation& theExplanatio
     if (!order)
         return false;
     theExplanation = VelPriceExplainer(couponFiles(theCart)).order(*order);
-    for (const QString& problem : VelshopProblems::texts(order->objections(), *order))
-        theNotes.append(QStringLiteral("not orderable: ") + problem);
+    theNotes += notOrderable(VelshopProblems::texts(order->objections(), *order));
     return true;
 }
 

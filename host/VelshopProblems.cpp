@@ -200,6 +200,16 @@ QStringList VelshopProblems::ofProducts(const VelTarmOrder& theOrder)
     return texts;
 }
 
+QStringList VelshopProblems::ofPrice(VelProductAbstract* theProduct, int theCount, const VelOrderSource& theSource)
+{
+    const VelTarmOrder order = orderOf(theProduct, theCount, theSource);
+    QStringList texts;
+    for (const Objection& objection : order.objections())
+        if (isOfPrice(objection))
+            texts.append(text(objection, order));
+    return texts;
+}
+
 bool VelshopProblems::hasPrice(const VelProductAbstract* theProduct, const VelTarmOrder& theOrder)
 {
     const QList<Objection>& objections = theOrder.objections();
@@ -210,7 +220,7 @@ bool VelshopProblems::hasPrice(const VelProductAbstract* theProduct, const VelTa
 
 bool VelshopProblems::hasPrice(VelProductAbstract* theProduct, int theCount, const VelOrderSource& theSource)
 {
-    return hasPrice(theProduct, orderOf(theProduct, theCount, theSource));
+    return ofPrice(theProduct, theCount, theSource).isEmpty();
 }
 
 bool VelshopProblems::isOrderable(VelProductAbstract* theProduct, const VelOrderSource& theSource)

@@ -27,6 +27,9 @@ QList<VelTarmOrderObjection> ofOrder(const VelTarmOrder& theOrder);
 /// Only what stands against the products of the order: no fees, no limit, no amount.
 QStringList ofProducts(const VelTarmOrder& theOrder);
 
+/// Why so many pieces of the product have no price by that way; empty where they have one, whoever may sell it.
+QStringList ofPrice(VelProductAbstract* theProduct, int theCount, const VelOrderSource& theSource);
+
 /// Whether the product has a price in that order.
 bool hasPrice(const VelProductAbstract* theProduct, const VelTarmOrder& theOrder);
 

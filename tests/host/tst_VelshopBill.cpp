@@ -128,6 +128,24 @@ private slots:
         QVERIFY(!QFileInfo::exists(account.path("discounts.xml")));
     }
 
+    /// The desk says of what the library charges that it isn't sold, in lines that fit a terminal.
+    void explainsASpoiltPrice()
+    {
+        const TestAccount account;
+        account.write("orderingdetails.xml", "<o/>");
+        account.write("currencies.xml", "<c><c isocode='EUR'/></c>");
+        account.write("pricelist.xml", QString("<p><articles><article id='1' name='%1' arrangement='trivial'>"
+                                               "<base_prices><p price='1,5' level='0' end_offer_date='2099-01-01'/>"
+                                               "</base_prices></article></articles></p>")
+                                           .arg(QString("long name ").repeated(9))
+                                           .toUtf8());
+        const VelshopAnswer answer = velshop({"explain", "1", "2", "--account", account.path()});
+        QVERIFY2(answer.output.contains("not orderable: 1 long name"), answer.output + answer.errors);
+        const QString beforePlaces = QString::fromUtf8(answer.output).section(account.path(), 0, 0);
+        for (const QString& line : beforePlaces.split('\n'))
+            QVERIFY2(line.size() <= 80, qUtf8Printable(line));
+    }
+
     /// A kiosk that nothing is sold at takes no orders, and has no payment; bands show no price that can't be read.
     void refusedAsAWhole()
     {
