@@ -57,7 +57,7 @@ void VelExplanationSources::findArticles(const QDomElement& theSection)
     for (const QDomElement& element : VelChildElements(theSection))
         if (const VelProductAbstract* product =
                 VelProductRegistry::instance()->productWithArticleID(VelXMLParser::intAttribute(element, STR_ID, 0)))
-            myElements.insert(product, element);
+            myElements[product].append(element);
 }
 
 /// Of fees with one key, too, the last one holds.
@@ -67,14 +67,14 @@ void VelExplanationSources::findFees(const QDomElement& theRoot)
     for (const QDomElement& fee : VelChildElements(theRoot.firstChildElement(STR_PAYMETHOD_FEES), STR_PAYMETHOD_FEE))
         myElements.insert(registry->paymentAgioProduct(static_cast<VelPaymentType>(
                               VelXMLParser::attribute(fee, STR_PAY_METHOD_ID, QString()).toInt())),
-                          fee);
+                          {fee});
     for (const QDomElement& fee : VelChildElements(theRoot.firstChildElement(STR_TRANSFERS), STR_TRANSFER))
-        myElements.insert(registry->transferProduct(VelXMLParser::intAttribute(fee, STR_GROUP, -1)), fee);
+        myElements.insert(registry->transferProduct(VelXMLParser::intAttribute(fee, STR_GROUP, -1)), {fee});
     for (const QDomElement& fee : VelChildElements(theRoot.firstChildElement(STR_EXPRESS_FEES), STR_EXPRESS_FEE))
         myElements.insert(
             registry->expressAgioProduct(VelXMLParser::intAttribute(fee, STR_GROUP, -1),
                                          VelExpressType(VelXMLParser::attribute(fee, STR_EXPRESS, QString()))),
-            fee);
+            {fee});
 }
 
 // ---- queries
@@ -82,6 +82,12 @@ void VelExplanationSources::findFees(const QDomElement& theRoot)
 QDomElement VelExplanationSources::root(std::size_t theDocument) const
 {
     return theDocument < myDocuments.size() ? myDocuments[theDocument]->myContent.root() : QDomElement();
+}
+
+QDomElement VelExplanationSources::element(const VelProductAbstract& theProduct) const
+{
+    const QVector<QDomElement> all = elements(theProduct);
+    return all.isEmpty() ? QDomElement() : all.last();
 }
 
 QVector<QDomElement> VelExplanationSources::entries(const QDomElement& theArticle)

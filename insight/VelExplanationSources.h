@@ -28,7 +28,9 @@ public:
 
     /// The element that the product's prices were read from: of several of one id the last. Null for a product that the
     /// price list no longer holds.
-    QDomElement element(const VelProductAbstract& theProduct) const { return myElements.value(&theProduct); }
+    QDomElement element(const VelProductAbstract& theProduct) const;
+    /// All elements of one id in their order: the first one made the product what it is, the others updated it.
+    QVector<QDomElement> elements(const VelProductAbstract& theProduct) const { return myElements.value(&theProduct); }
     /// Its price entries, in the order in which bands number them.
     static QVector<QDomElement> entries(const QDomElement& theArticle);
     /// The conditions of a coupon, by the number of its document; null for none.
@@ -56,7 +58,7 @@ private:
     QDomElement root(std::size_t theDocument) const;
 
     std::vector<std::unique_ptr<const Document>> myDocuments; ///< price list, ordering details, coupons
-    QHash<const VelProductAbstract*, QDomElement> myElements;
+    QHash<const VelProductAbstract*, QVector<QDomElement>> myElements;
 };
 
 #endif

@@ -30,6 +30,16 @@ const QStringList& attributesBesidePrice()
     return names;
 }
 
+/// What says which kind of product an element makes; none for most fees.
+QStringList kindAttributes(const QString& theTag)
+{
+    if (theTag == QLatin1String("article"))
+        return {STR_ARRANGEMENT};
+    if (theTag == QLatin1String("add_on"))
+        return {STR_PRODUCT_CLASS};
+    return theTag == QLatin1String("transfer") ? QStringList{STR_MODEL} : QStringList();
+}
+
 /// The band that was found: of a package with a rest that of the rest, null where there is none.
 const VelTarmPriceBand* bandOf(const VelTarmPriceAnswer& theAnswer)
 {
@@ -158,13 +168,8 @@ VelExplainedPlaces VelPriceCandidates::places() const
     QVector<VelExplainedPlace> all;
     for (const QDomElement& entry : myEntries)
         citeEntry(all, entry);
-    const QString tag = myElement.tagName();
-    if (tag == QLatin1String("article"))
-        mySources.cite(all, myElement, {STR_ARRANGEMENT});
-    else if (tag == QLatin1String("add_on"))
-        mySources.cite(all, myElement, {STR_PRODUCT_CLASS});
-    else if (tag == QLatin1String("transfer"))
-        mySources.cite(all, myElement, {STR_MODEL});
+    for (const QDomElement& element : mySources.elements(myProduct))
+        mySources.cite(all, element, kindAttributes(element.tagName()));
     places.myCompared = without(all, places.myDecides);
     return places;
 }

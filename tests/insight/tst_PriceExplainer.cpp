@@ -121,6 +121,15 @@ private slots:
         QCOMPARE(places.myDecides.first().myFile, myAccount.path("pricelist.xml"));
     }
 
+    /// The first element of an id says what kind of product it is, the last one what it costs.
+    void citesAllElementsOfAnId()
+    {
+        load(myAccount, "<p><articles>\n<article id='1' arrangement='trivial'/>\n<article id='1' arrangement='gift'>"
+                        "<base_prices><e price='5'/></base_prices></article></articles></p>");
+        const VelExplainedPlaces places = VelPriceExplainer().price(*product(1), key(), 1).terms().first().myPlaces;
+        QCOMPARE(text(places.myCompared, "arrangement"), "2:30 trivial, 3:30 gift");
+    }
+
     /// A quantity like any other, and none is above it.
     void needsTheHighestQuantity()
     {
