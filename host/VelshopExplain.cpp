@@ -19,6 +19,7 @@
 #include "product/VelProductAbstract.h"
 #include "product/VelProductRegistry.h"
 
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTextStream>
@@ -184,17 +185,29 @@ bool fitTogether(const VelshopCommandLine& theLine, const VelshopExplainArgument
         theError = QStringLiteral("--payment, --express, --no-coupon and --compare go with a cart");
     else if (theArguments.myIsComparison && !theArguments.myWhatIf.isAny())
         theError = QStringLiteral("--compare needs something that is other than in the cart, such as --source");
+    else if (theArguments.myIsComparison && (theArguments.myIsAll || !theArguments.myHtmlFile.isEmpty()))
+        theError = QStringLiteral("--compare prints the differences alone: it goes without --all and --html");
+    return theError.isEmpty();
+}
+
+/// A number that is no file is an article whose count was forgotten.
+bool readCartWord(const QString& theWord, VelshopExplainArguments& theArguments, VelshopError& theError)
+{
+    bool isNumber = false;
+    theWord.toInt(&isNumber);
+    if (isNumber && !QFileInfo::exists(theWord))
+        theError = QStringLiteral("%1 is an article: say how many pieces, as in explain %1 25").arg(theWord);
+    theArguments.myCart = theWord;
     return theError.isEmpty();
 }
 
 bool readWords(const QStringList& theWords, VelshopExplainArguments& theArguments, VelshopError& theError)
 {
     if (theWords.size() == 1)
-        theArguments.myCart = theWords.first();
-    return theWords.size() == 1 ||
-           (VelshopCommandLine::readNumber(theWords.at(0), QStringLiteral("ARTICLE"), VelshopCommandLine::LOWEST_ID,
-                                           theArguments.myArticle, theError) &&
-            VelshopCommandLine::readNumber(theWords.at(1), QStringLiteral("COUNT"), 1, theArguments.myCount, theError));
+        return readCartWord(theWords.first(), theArguments, theError);
+    return VelshopCommandLine::readNumber(theWords.at(0), QStringLiteral("ARTICLE"), VelshopCommandLine::LOWEST_ID,
+                                          theArguments.myArticle, theError) &&
+           VelshopCommandLine::readNumber(theWords.at(1), QStringLiteral("COUNT"), 1, theArguments.myCount, theError);
 }
 
 } // namespace

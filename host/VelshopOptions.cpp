@@ -44,7 +44,8 @@ const QVector<VelshopOption>& VelshopOptions::all()
         {STR_PAYMENT, QStringLiteral("N"), QStringLiteral("This payment in place of the cart's.")},
         {STR_EXPRESS, QStringLiteral("0|1|2"), QStringLiteral("This express type in place of the cart's.")},
         {STR_NO_COUPON, QString(), QStringLiteral("Leave the cart's coupon out.")},
-        {STR_COMPARE, QString(), QStringLiteral("Print what that changes of the cart, amount by amount.")},
+        {STR_COMPARE, QString(),
+         QStringLiteral("Print what that changes of the cart, amount by amount, and that alone.")},
     };
     return options;
 }

@@ -86,10 +86,11 @@ private slots:
             curve 103 --to 100001                       | 2        | 100000
             curve 103 --by weight                       | 2        | "weight"
             curve 11007                                 | 1        | charged by the products
-            explain 103                                 | 2        | 103: can't be read
+            explain 103                                 | 2        | how many pieces
             explain 103 2147483647                      | 2        | beyond
             explain 103 1 --compare                     | 2        | go with a cart
             explain shop/carts/small.json --compare     | 2        | needs something
+            explain shop/carts/small.json --compare --all --source CD | 2 | differences alone
             explain shop/carts/small.json --level 1     | 2        | goes with an article
             explain shop/carts/small.json --payment 77  | 2        | 77 can't be chosen
             explain shop/carts/small.json --express 7   | 2        | must be 0, 1 or 2
