@@ -1,6 +1,15 @@
 # What every target of this project compiles with, and nothing that an embedding project would inherit.
 add_library(VelTarmCompilerSettings INTERFACE)
 
+option(VELTARM_PRECOMPILE "Read Qt's headers once for each library: builds faster, and hides a missing include" OFF)
+
+# veltarm_precompile(target headers...): those that most of its sources include
+function(veltarm_precompile target)
+  if(VELTARM_PRECOMPILE)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
 include(CheckCXXCompilerFlag)
 include(CheckLinkerFlag)
 
