@@ -32,7 +32,8 @@ public:
 
     /// Cents, 0 or more, that each coupon can still take off behind this bill, in the same order: what
     /// VelTarmOrderCoupon::left() says there.
-    const QList<int>& couponRests() const { return myCouponRests; }
+    const QList<int>& couponRests() const& { return myCouponRests; }
+    QList<int> couponRests() && { return std::move(myCouponRests); }
 
     /// All shares together: what VelTarmBill::totalFinalCost() and priceOfPaymentAgio() are asked with.
     int couponAmount() const { return myCouponAmount; }
