@@ -3,8 +3,9 @@
 
 #include "price/VelTarmPriceBand.h"
 
-/// What a rule charges, while nobody has said yet whether it goes to a bill: so many units at the price of a band.
-struct VelTarmPriceCharge // one piece, unless said otherwise
+/// What a rule charges, while nobody has said yet whether it goes to a bill: so many units at the price of a band, or a
+/// single one for one piece.
+struct VelTarmPriceCharge
 {
     const VelTarmPriceBand* myBand; ///< never null; without an entry where none applies, and then the price is -1
     VelDiscountModel myModel;       ///< that of the band, and of the rule where no entry applies
