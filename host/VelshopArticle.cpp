@@ -1,6 +1,7 @@
 #include "host/VelshopArticle.h"
 
 #include "insight/VelShopFees.h"
+#include "product/VelProductAbstract.h"
 #include "product/VelProductRegistry.h"
 
 VelProductAbstract* findArticle(int theArticle, VelshopError& theError)
@@ -21,4 +22,14 @@ VelProductAbstract* findArticleOrFee(int theArticle, VelDiscountModel& theKeyMod
         return findArticle(theArticle, theError);
     theKeyModel = VelShopFees::keyModel(fee.myKind);
     return fee.myProduct;
+}
+
+bool isFee(const VelProductAbstract* theProduct)
+{
+    return VelProductRegistry::instance()->productWithArticleID(theProduct->articleID()) != theProduct;
+}
+
+int billSumFor(const VelProductAbstract* theProduct)
+{
+    return isFee(theProduct) ? 1 : 0;
 }

@@ -17,7 +17,6 @@
 #include "insight/VelPriceExplainer.h"
 #include "price/VelTarmPriceView.h"
 #include "product/VelProductAbstract.h"
-#include "product/VelProductRegistry.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -27,9 +26,6 @@
 #include <optional>
 
 namespace {
-
-/// In cents: shipping by bill sum costs nothing for 0, and no article asks for a sum.
-const int SUM_OF_FEE = 1;
 
 /// What is printed, and to what it is compared.
 struct Answer
@@ -48,7 +44,7 @@ bool isTooLarge(const VelProductAbstract& theProduct, const VelTarmPriceKey& the
     qint64 sum = 0;
     for (const VelTarmPriceCharge& charge : theKey.discountModel() == DISCOUNT_MODEL_EXPRESS_FEE
                                                 ? view.inModel(theKey.discountModel(), theCount, 0, 0)
-                                                : view.best(theCount, SUM_OF_FEE, theLevel))
+                                                : view.best(theCount, billSumFor(&theProduct), theLevel))
         sum += static_cast<qint64>(charge.myUnits) * charge.myBand->price();
     return !VelTarmOrderAmounts::fits(sum);
 }
@@ -73,8 +69,7 @@ QStringList notOrderable(const QStringList& theProblems)
 QStringList notesOnArticle(VelProductAbstract* theProduct, const VelshopExplainArguments& theArguments,
                            const VelOrderSource& theSource)
 {
-    const bool isArticle = VelProductRegistry::instance()->productWithArticleID(theArguments.myArticle) == theProduct;
-    if (!isArticle || theArguments.myLevel != 0)
+    if (isFee(theProduct) || theArguments.myLevel != 0)
         return {};
     return notOrderable(VelshopProblems::ofPrice(theProduct, theArguments.myCount, theSource));
 }
@@ -94,8 +89,8 @@ bool explainArticle(const VelshopExplainArguments& theArguments, Answer& theAnsw
         return false;
     }
     theAnswer.myExplanation = VelPriceExplainer().price(*product, key, theArguments.myCount, nullptr, nullptr,
-                                                        SUM_OF_FEE, theArguments.myLevel);
-    if (product->transferModel() == TRANSFER_MODEL_2)
+                                                        billSumFor(product), theArguments.myLevel);
+    if (isFee(product) && product->transferModel() == TRANSFER_MODEL_2)
         theAnswer.myExplanation = withoutPrice(theAnswer.myExplanation.terms().first());
     if (theAnswer.myExplanation.hasPrice())
         theAnswer.myNotes = notesOnArticle(product, theArguments, source);

@@ -10,7 +10,6 @@
 #include "host/VelshopWords.h"
 #include "price/VelDiscountLimit.h"
 #include "product/VelProductAbstract.h"
-#include "product/VelProductRegistry.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -124,11 +123,11 @@ bool isFeePriced(const VelTarmBill& theBill)
     });
 }
 
-/// A fee is asked with a bill sum of 1 cent: shipping by bill sum costs nothing for 0.
 PricedArticle pricedArticle(const Asked& theAsked, VelTarmBill& theBill)
 {
     const VelTarmPriceKey key(theAsked.mySource, -1, theAsked.myKeyModel);
-    const int amount = theAsked.myProduct->priceFor(key, theAsked.myCount, theAsked.myIsFee ? 1 : 0, &theBill, nullptr);
+    const int amount =
+        theAsked.myProduct->priceFor(key, theAsked.myCount, billSumFor(theAsked.myProduct), &theBill, nullptr);
     const bool hasPrice = theAsked.myIsFee
                               ? isFeePriced(theBill)
                               : VelshopProblems::hasPrice(theAsked.myProduct, theAsked.myCount, theAsked.mySource);
@@ -190,7 +189,7 @@ int priceArticle(const VelshopPriceArguments& theArguments, QTextStream& theOutp
     asked.myProduct = findArticleOrFee(theArguments.myArticle, asked.myKeyModel, theError);
     if (!asked.myProduct || !theArguments.mySource.complete(asked.mySource, theError))
         return EXIT_BAD_INPUT;
-    asked.myIsFee = VelProductRegistry::instance()->productWithArticleID(theArguments.myArticle) != asked.myProduct;
+    asked.myIsFee = isFee(asked.myProduct);
     if (asked.myIsFee && asked.myProduct->transferModel() == TRANSFER_MODEL_2) {
         theError = headText(asked) + QStringLiteral(": it is charged by the products of an order");
         return EXIT_NO_PRICE;

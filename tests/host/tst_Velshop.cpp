@@ -67,6 +67,27 @@ private slots:
         QVERIFY2(fee.output.contains("no price"), fee.output);
     }
 
+    /// On a bill an article of that letter costs nothing; shipping costs what its first band says.
+    void explainsWhatIsPriced()
+    {
+        const TestAccount account;
+        account.write("pricelist.xml", R"(<p><articles><article id="7" name="Odd" group="1" arrangement="trivial">
+            <discount_prices><price type="Z" level="1" quantity="1" price="500"/></discount_prices></article></articles>
+            <transfers><transfer id="8" name="Post" group="1">
+            <discount_prices><price type="Z" level="1" quantity="1" price="300"/></discount_prices></transfer></transfers>
+            </p>)");
+        account.write("orderingdetails.xml", "<o/>");
+        QVERIFY(QFile::copy(VELTARM_SOURCE_DIR "/shop/currencies.xml", account.path("currencies.xml")));
+        for (const char* article : {"7", "8"}) {
+            const QStringList of{article, "5", "--json", "--account", account.path()};
+            const auto asked = [&](const char* theCommand) {
+                return QJsonDocument::fromJson(velshop(QStringList{theCommand} + of).output).object();
+            };
+            QVERIFY(asked("price")["amount"].isDouble());
+            QCOMPARE(asked("explain")["total"], asked("price")["amount"]);
+        }
+    }
+
     void refusals_data()
     {
         readTable(R"(
