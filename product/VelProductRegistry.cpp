@@ -1,5 +1,6 @@
 #include "product/VelProductRegistry.h"
 
+#include "bill/VelTarmArticle.h"
 #include "frame/VelChildElements.h"
 #include "frame/VelDocumentMemory.h"
 #include "frame/VelGuardedInstance.h"
@@ -14,7 +15,6 @@
 #include "product/VelProductRegistryPaymentAgio.h"
 #include "product/VelProductRegistryTransferProducts.h"
 #include "product/VelProductSorting.h"
-#include "product/VelProductStock.h"
 #include "sibling/VelKeyAccount.h"
 #include "sibling/VelXMLLoader.h"
 #include "sibling/VelXMLParser.h"
@@ -40,6 +40,12 @@ bool isOfUnknownType(const VelProductAbstract* theProduct)
 {
     const auto* printFun = dynamic_cast<const VelProductPrintFun*>(theProduct);
     return printFun && printFun->productType().isUnknown();
+}
+
+/// The product as an add-on, by its class and not by the tag last read; null for any other.
+VelProductAddOn* asAddOn(VelProductAbstract* theProduct)
+{
+    return theProduct->isProductClass(PRODUCT_CLASS_ADD_ON) ? dynamic_cast<VelProductAddOn*>(theProduct) : nullptr;
 }
 
 QList<VelProductPrintFun*> booksOf(const VelProductList& theProducts)
@@ -82,8 +88,7 @@ VelProductRegistry* VelProductRegistry::instance()
 }
 
 VelProductRegistry::VelProductRegistry()
-    : myStock(new VelProductStock)
-    , myTransferProducts(new VelProductRegistryTransferProducts)
+    : myTransferProducts(new VelProductRegistryTransferProducts)
     , myExpressFees(new VelProductRegistryExpressFees)
     , myPaymentAgio(new VelProductRegistryPaymentAgio)
     , myFotoBookCache(new VelProductRegistryFotoBookCache)
@@ -94,11 +99,12 @@ VelProductRegistry::VelProductRegistry()
 
 VelProductRegistry::~VelProductRegistry()
 {
+    qDeleteAll(myProductList);
     delete myFotoBookCache;
     delete myPaymentAgio;
     delete myExpressFees;
     delete myTransferProducts;
-    delete myStock;
+    qDeleteAll(myProductsByType);
 }
 
 // ---- the way of a price list into the registry
@@ -119,7 +125,7 @@ void VelProductRegistry::loadAllProducts(const QFileInfo& theProductListFileInfo
 void VelProductRegistry::updateProducts(const QDomNode& theNode)
 {
     const VelKeptTexts reading;
-    const auto knownProducts = static_cast<int>(myStock->products().size());
+    const auto knownProducts = static_cast<int>(myProductList.size());
     myFotoBookCache->clear();
     setProductsDeprecated();
     readProducts(theNode.firstChildElement(STR_ARTICLES));
@@ -133,15 +139,14 @@ void VelProductRegistry::updateProducts(const QDomNode& theNode)
 
 void VelProductRegistry::setProductsDeprecated()
 {
-    for (VelProductAbstract* product : myStock->products())
+    for (VelProductAbstract* product : qAsConst(myProductList))
         product->setDeprecated(true);
 }
 
 void VelProductRegistry::readProducts(const QDomElement& theSection)
 {
-    // A lookup of its own: a scan of the list per element would make a load quadratic. An id changes neither by an
-    // update with an element of that id nor otherwise while a section is read.
-    QHash<int, VelProductAbstract*> productsByID = myStock->firstByArticleID();
+    // An id changes neither by an update with an element of that id nor otherwise while a section is read.
+    QHash<int, VelProductAbstract*> productsByID = firstProductsByArticleID();
     for (const QDomElement& element : VelChildElements(theSection)) {
         VelProductAbstract*& product = productsByID[VelXMLParser::intAttribute(element, STR_ID, 0)];
         if (product) {
@@ -157,6 +162,19 @@ void VelProductRegistry::readProducts(const QDomElement& theSection)
     }
 }
 
+/// The lookup of one section's reading: a scan of the list per element would make a load quadratic.
+QHash<int, VelProductAbstract*> VelProductRegistry::firstProductsByArticleID() const
+{
+    QHash<int, VelProductAbstract*> productsByID;
+    productsByID.reserve(myProductList.size());
+    for (VelProductAbstract* product : myProductList) {
+        VelProductAbstract*& first = productsByID[product->articleID()];
+        if (!first)
+            first = product;
+    }
+    return productsByID;
+}
+
 VelProductAbstract* VelProductRegistry::buildAbstractProduct(const QDomElement& theElement) const
 {
     return VelProductFactory::instance()->build(theElement);
@@ -164,8 +182,14 @@ VelProductAbstract* VelProductRegistry::buildAbstractProduct(const QDomElement& 
 
 void VelProductRegistry::insertProduct(VelProductAbstract* theProduct)
 {
-    if (theProduct)
-        myStock->insert(theProduct);
+    if (!theProduct)
+        return;
+    myProductList.append(theProduct);
+    if (!theProduct->isPrintFunProduct())
+        return;
+    // A host may bring a product of a print-fun class that isn't one, and so has no type to file it under.
+    if (const auto* printFun = dynamic_cast<VelProductPrintFun*>(theProduct))
+        productsOfType(printFun->productType())->append(theProduct);
 }
 
 void VelProductRegistry::readAdditionalPaymentFees(const QDomElement& theSection)
@@ -185,30 +209,36 @@ void VelProductRegistry::readExpressFees(const QDomElement& theSection)
 
 void VelProductRegistry::countProducts(int theKnownProducts)
 {
-    const VelProductList& products = myStock->products();
-    const auto deprecated =
-        static_cast<int>(std::count_if(products.cbegin(), products.cend(), [](const VelProductAbstract* theProduct) {
-            return theProduct->isDeprecated();
-        }));
-    myLastLoad.setProducts(static_cast<int>(products.size()) - theKnownProducts, theKnownProducts - deprecated,
+    const auto deprecated = static_cast<int>(
+        std::count_if(myProductList.cbegin(), myProductList.cend(),
+                      [](const VelProductAbstract* theProduct) { return theProduct->isDeprecated(); }));
+    myLastLoad.setProducts(static_cast<int>(myProductList.size()) - theKnownProducts, theKnownProducts - deprecated,
                            deprecated);
-}
-
-QList<VelProductAbstract*> VelProductRegistry::productList() const
-{
-    return myStock->products();
 }
 
 // ---- one product
 
+/// Through an index that is made anew when any article's id has changed or the list has grown since.
 VelProductAbstract* VelProductRegistry::productWithArticleID(int theArticleID) const
 {
-    return myStock->withArticleID(theArticleID);
+    if (myIndexedIdChanges != VelTarmArticle::idChanges() || myIndexedProducts != myProductList.size()) {
+        myProductsByArticleID = firstProductsByArticleID();
+        myIndexedIdChanges = VelTarmArticle::idChanges();
+        myIndexedProducts = myProductList.size();
+    }
+    return myProductsByArticleID.value(theArticleID, nullptr);
+}
+
+template <typename Predicate>
+VelProductAbstract* VelProductRegistry::firstProduct(Predicate thePredicate) const
+{
+    const auto found = std::find_if(myProductList.cbegin(), myProductList.cend(), thePredicate);
+    return found == myProductList.cend() ? nullptr : *found;
 }
 
 VelProductAbstract* VelProductRegistry::findProduct(const QString& theName, const VelProductGroup& theGroup) const
 {
-    return myStock->first([&](const VelProductAbstract* theProduct) {
+    return firstProduct([&](const VelProductAbstract* theProduct) {
         return theProduct->isProductGroup(theGroup) && theProduct->name() == theName;
     });
 }
@@ -253,7 +283,13 @@ VelProductAbstract* VelProductRegistry::findPrintFun(const VelProductType& theTy
 
 VelProductAbstract* VelProductRegistry::findProductWithOrderTXTType(const QString& theType) const
 {
-    return myStock->withOrderTxtType(theType);
+    if (VelProductAbstract* known = myProductsByOrderTxtType.value(theType, nullptr))
+        return known;
+    VelProductAbstract* product =
+        firstProduct([&](const VelProductAbstract* theProduct) { return theProduct->orderTxtType() == theType; });
+    if (product)
+        myProductsByOrderTxtType.insert(theType, product);
+    return product;
 }
 
 VelProductAbstract* VelProductRegistry::findProductWithOrderTXTHead(const QString& theHead,
@@ -261,7 +297,7 @@ VelProductAbstract* VelProductRegistry::findProductWithOrderTXTHead(const QStrin
 {
     if (theHead.isEmpty())
         return nullptr;
-    return myStock->first([&](const VelProductAbstract* theProduct) {
+    return firstProduct([&](const VelProductAbstract* theProduct) {
         return theProduct->orderTxtHead() == theHead && theProduct->isProductGroup(theGroup);
     });
 }
@@ -272,7 +308,7 @@ VelProductAbstract* VelProductRegistry::findProductWithOrderTXTHead(const QStrin
 {
     if (theHead.isEmpty())
         return nullptr;
-    return myStock->first([&](const VelProductAbstract* theProduct) {
+    return firstProduct([&](const VelProductAbstract* theProduct) {
         return theProduct->orderTxtHead() == theHead && theProduct->isProductGroup(theGroup) &&
                theProduct->orderTxtValue(STR_BORDER) == theBorder;
     });
@@ -300,9 +336,32 @@ VelProductAbstract* VelProductRegistry::mostEquivalentProduct(VelProductAbstract
 
 // ---- the add-ons of a main product
 
+template <typename Predicate>
+VelProductAddOn* VelProductRegistry::firstAddOn(Predicate thePredicate) const
+{
+    for (VelProductAbstract* product : myProductList) {
+        VelProductAddOn* addOn = asAddOn(product);
+        if (addOn && thePredicate(addOn))
+            return addOn;
+    }
+    return nullptr;
+}
+
+template <typename Predicate>
+QList<VelProductAddOn*> VelProductRegistry::addOns(Predicate thePredicate) const
+{
+    QList<VelProductAddOn*> found;
+    for (VelProductAbstract* product : myProductList) {
+        VelProductAddOn* addOn = asAddOn(product);
+        if (addOn && thePredicate(addOn))
+            found.append(addOn);
+    }
+    return found;
+}
+
 VelProductAddOn* VelProductRegistry::supplement(int theArticleID, const QString& theProductClass) const
 {
-    return myStock->firstAddOn(
+    return firstAddOn(
         [&](const VelProductAddOn* theAddOn) { return theAddOn->matches(theArticleID, theProductClass); });
 }
 
@@ -324,27 +383,26 @@ bool VelProductRegistry::productHasSupplement(int theArticleID, const QString& t
 
 QList<VelProductAddOn*> VelProductRegistry::possibleAddOns(int theArticleID) const
 {
-    return myStock->addOns(
-        [=](const VelProductAddOn* theAddOn) { return theAddOn->isCompatibleWithArticleId(theArticleID); });
+    return addOns([=](const VelProductAddOn* theAddOn) { return theAddOn->isCompatibleWithArticleId(theArticleID); });
 }
 
 QList<VelProductAddOn*> VelProductRegistry::possibleSupplements(int theArticleID) const
 {
-    return myStock->addOns([=](const VelProductAddOn* theAddOn) {
+    return addOns([=](const VelProductAddOn* theAddOn) {
         return theAddOn->isCompatibleWithArticleId(theArticleID) && theAddOn->isOrderableByUser();
     });
 }
 
 QList<VelProductAddOn*> VelProductRegistry::findPossibleFrames(int theArticleID) const
 {
-    return myStock->addOns([=](const VelProductAddOn* theAddOn) {
+    return addOns([=](const VelProductAddOn* theAddOn) {
         return theAddOn->isFrame() && theAddOn->isCompatibleWithArticleId(theArticleID);
     });
 }
 
 VelProductAddOn* VelProductRegistry::findPagePackage(int theArticleID) const
 {
-    return myStock->firstAddOn([=](const VelProductAddOn* theAddOn) {
+    return firstAddOn([=](const VelProductAddOn* theAddOn) {
         return theAddOn->isPagePackage() && theAddOn->isCompatibleWithArticleId(theArticleID);
     });
 }
@@ -370,12 +428,15 @@ QString VelProductRegistry::qrCodePriceText(const VelProductType& theType) const
 
 VelProductList* VelProductRegistry::productsOfType(const VelProductType& theType) const
 {
-    return myStock->ofType(theType);
+    VelProductList*& list = myProductsByType[theType.type()];
+    if (!list)
+        list = new VelProductList;
+    return list;
 }
 
 QList<VelProductPrintFun*> VelProductRegistry::fotoBooks() const
 {
-    return booksOf(myStock->products());
+    return booksOf(myProductList);
 }
 
 QList<VelProductPrintFun*> VelProductRegistry::fotoBooks(const VelProductType& theType) const
@@ -385,23 +446,29 @@ QList<VelProductPrintFun*> VelProductRegistry::fotoBooks(const VelProductType& t
 
 VelProductList VelProductRegistry::findProductListWithOrderTxtType(const QString& theType) const
 {
-    return myStock->all([&](const VelProductAbstract* theProduct) { return theProduct->orderTxtType() == theType; });
+    VelProductList products;
+    for (VelProductAbstract* product : myProductList)
+        if (product->orderTxtType() == theType)
+            products.append(product);
+    return products;
 }
 
 VelProductList VelProductRegistry::productsForShippingGroup(int theId, bool theIncludeAddOns) const
 {
-    VelProductList products = myStock->all([=](const VelProductAbstract* theProduct) {
-        return theProduct->isAddOn() ? theIncludeAddOns : theProduct->shippingGroupId() == theId;
-    });
+    VelProductList products;
+    for (VelProductAbstract* product : myProductList)
+        if (product->isAddOn() ? theIncludeAddOns : product->shippingGroupId() == theId)
+            products.append(product);
     sortProductsByNumber(products);
     return products;
 }
 
 VelProductList VelProductRegistry::productsForProductGroup(const VelProductGroup& theGroup, bool theIncludeAddOns) const
 {
-    VelProductList products = myStock->all([&](const VelProductAbstract* theProduct) {
-        return theProduct->isProductGroup(theGroup) || (theIncludeAddOns && theProduct->isAddOn());
-    });
+    VelProductList products;
+    for (VelProductAbstract* product : myProductList)
+        if (product->isProductGroup(theGroup) || (theIncludeAddOns && product->isAddOn()))
+            products.append(product);
     sortProductsByNumber(products);
     return products;
 }
@@ -432,18 +499,18 @@ bool VelProductRegistry::productExists(const QString& theText) const
 
 bool VelProductRegistry::containsProductGroup(const VelProductGroup& theGroup) const
 {
-    return myStock->first(
+    return firstProduct(
         [&](const VelProductAbstract* theProduct) { return theProduct->productGroup().value() == theGroup.value(); });
 }
 
 bool VelProductRegistry::shippingTimesEnabled() const
 {
-    return myStock->first([](const VelProductAbstract* theProduct) { return theProduct->shippingTimesEnabled(); });
+    return firstProduct([](const VelProductAbstract* theProduct) { return theProduct->shippingTimesEnabled(); });
 }
 
 bool VelProductRegistry::shippingGroupHasNonPrintFunProducts(int theId) const
 {
-    return myStock->first([=](const VelProductAbstract* theProduct) {
+    return firstProduct([=](const VelProductAbstract* theProduct) {
         return !theProduct->isAddOn() && theProduct->shippingGroupId() == theId && !theProduct->isPrintFunProduct();
     });
 }
@@ -451,7 +518,7 @@ bool VelProductRegistry::shippingGroupHasNonPrintFunProducts(int theId) const
 bool VelProductRegistry::containsDiscountModel(int theShippingGroupId, const VelTarmPriceKey& theKey,
                                                VelDiscountModel theModel) const
 {
-    return myStock->first([&](const VelProductAbstract* theProduct) {
+    return firstProduct([&](const VelProductAbstract* theProduct) {
         return (theProduct->isAddOn() || theProduct->shippingGroupId() == theShippingGroupId) &&
                hasLimitOfModel(theProduct->discountLimits(theKey), theModel);
     });

@@ -10,7 +10,9 @@
 
 #include <QDomElement>
 #include <QFileInfo>
+#include <QHash>
 #include <QList>
+#include <QMap>
 #include <QObject>
 #include <QSet>
 #include <QStringList>
@@ -23,7 +25,6 @@ class VelProductRegistryExpressFees;
 class VelProductRegistryFotoBookCache;
 class VelProductRegistryPaymentAgio;
 class VelProductRegistryTransferProducts;
-class VelProductStock;
 class VelTarmPriceKey;
 
 /**
@@ -47,7 +48,7 @@ public:
     ~VelProductRegistry() override;
 
     /// Every main product and add-on ever read, in order of first appearance.
-    QList<VelProductAbstract*> productList() const;
+    QList<VelProductAbstract*> productList() const { return myProductList; }
 
     // ---- one product
     // Null when there is none. Deprecated products are found like all others, and "first" means first in productList().
@@ -230,10 +231,23 @@ signals:
     void priceListUpdated();
 
 private:
+    QHash<int, VelProductAbstract*> firstProductsByArticleID() const;
     void countProducts(int theKnownProducts);
 
+    template <typename Predicate>
+    VelProductAbstract* firstProduct(Predicate thePredicate) const;
+    template <typename Predicate>
+    VelProductAddOn* firstAddOn(Predicate thePredicate) const;
+    template <typename Predicate>
+    QList<VelProductAddOn*> addOns(Predicate thePredicate) const;
+
+    QList<VelProductAbstract*> myProductList;
+    mutable QMap<VelProductTypeEnum, VelProductList*> myProductsByType;   ///< owns the lists, not the products
+    mutable QHash<QString, VelProductAbstract*> myProductsByOrderTxtType; ///< what was once found; never cleared
+    mutable QHash<int, VelProductAbstract*> myProductsByArticleID;        ///< an index, see productWithArticleID
+    mutable unsigned myIndexedIdChanges = 0;                              ///< the changes of ids that the index knows
+    mutable int myIndexedProducts = 0;                                    ///< the length of the list that it knows
     VelTarmLoadResult myLastLoad;
-    VelProductStock* myStock;
     VelProductRegistryTransferProducts* myTransferProducts;
     VelProductRegistryExpressFees* myExpressFees;
     VelProductRegistryPaymentAgio* myPaymentAgio;
